@@ -1,0 +1,56 @@
+# What every target of the program shares, and the functions that make libraries and tests.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+add_library(morvane_options INTERFACE)
+target_compile_options(morvane_options INTERFACE -Wall -Wextra -Wpedantic)
+if(MORVANE_WARNINGS_AS_ERRORS)
+    target_compile_options(morvane_options INTERFACE -Werror)
+endif()
+if(MORVANE_SANITIZE)
+    target_compile_options(morvane_options INTERFACE -fsanitize=${MORVANE_SANITIZE} -fno-omit-frame-pointer)
+    target_link_options(morvane_options INTERFACE -fsanitize=${MORVANE_SANITIZE})
+endif()
+target_compile_definitions(morvane_options INTERFACE
+    QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+
+# morvane_library(timeline SOURCES ... LINKS ...): the static library morvane_timeline, alias Morvane::timeline.
+function(morvane_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LINKS")
+    add_library(morvane_${name} STATIC ${ARG_SOURCES})
+    add_library(Morvane::${name} ALIAS morvane_${name})
+    target_include_directories(morvane_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(morvane_${name} PUBLIC ${ARG_LINKS} PRIVATE morvane_options)
+endfunction()
+
+# morvane_test(tst_x SOURCES ... LINKS ... [UI] [TIMEOUT seconds]): one QtTest executable run by ctest.
+# Without UI it runs on the offscreen platform; with UI in a window of its own virtual screen.
+function(morvane_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "UI" "TIMEOUT" "SOURCES;LINKS")
+    add_executable(${name} ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test morvane_options)
+    target_compile_definitions(${name} PRIVATE
+        MORVANE_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data" MORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    if(ARG_UI)
+        add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/ui/with-screen $<TARGET_FILE:${name}>)
+        set(labels ui)
+    else()
+        add_test(NAME ${name} COMMAND ${name})
+        set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+        set(labels unit)
+    endif()
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 120)
+    endif()
+    set_tests_properties(${name} PROPERTIES LABELS ${labels} TIMEOUT ${ARG_TIMEOUT})
+endfunction()

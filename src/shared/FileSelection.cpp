@@ -1,0 +1,110 @@
+#include "shared/FileSelection.h"
+
+#include "shared/Dialogs.h"
+#include "shared/Names.h"
+#include "shared/Settings.h"
+#include "shared/WebcamGlobal.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace {
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("MainWindow", source);
+}
+
+QString pattern(const QString &label, const QString &filters)
+{
+    return label + QStringLiteral(" (") + filters + QStringLiteral(");;");
+}
+
+QString projectFilesLabel()
+{
+    return QStringLiteral("Morvane ") + text(QT_TRANSLATE_NOOP("MainWindow", "project files"));
+}
+
+} // namespace
+
+FileSelection::FileSelection(morvane::Dialogs &dialogs, Settings &settings, WebcamGlobal &global,
+                             std::function<QString()> projectFolder, QObject *parent)
+    : QObject(parent), m_dialogs(dialogs), m_settings(settings), m_global(global),
+      m_projectFolder(std::move(projectFolder))
+{
+}
+
+FileSelection::Request FileSelection::requestFor(int filterType)
+{
+    switch (filterType) {
+        case Zum::NewProjectFilesFilter:
+            return {text(QT_TRANSLATE_NOOP("MainWindow", "Open Project...")),
+                    pattern(projectFilesLabel(), QStringLiteral("*.kzfx")), QString()};
+        case Zum::VideoFilesFilter:
+            return {
+                text(QT_TRANSLATE_NOOP("MainWindow", "Open Video...")),
+                pattern(text(QT_TRANSLATE_NOOP("MainWindow", "Video files")), morvane::videoFilters)
+                    + pattern(text(QT_TRANSLATE_NOOP("MainWindow", "Audio files")), QStringLiteral("*.mp3")),
+                QStringLiteral("lastvideodir")};
+        case Zum::ExpoImagesFilter:
+            return {text(QT_TRANSLATE_NOOP("MainWindow", "Open file...")),
+                    pattern(text(QT_TRANSLATE_NOOP("MainWindow", "Images")), morvane::exportImageFilters),
+                    QStringLiteral("lastbackgrounddir")};
+        case Zum::IccProfilesFilter:
+            return {text(QT_TRANSLATE_NOOP("MainWindow", "Open ICC Profile...")),
+                    pattern(text(QT_TRANSLATE_NOOP("MainWindow", "ICC profiles")), morvane::iccFilters),
+                    QStringLiteral("lasticcpath")};
+        case Zum::ExecudablesFilter:
+            return {text(QT_TRANSLATE_NOOP("MainWindow", "Choose an external editor...")), QString(),
+                    QString()};
+        default:
+            return {text(QT_TRANSLATE_NOOP("MainWindow", "Open Project...")),
+                    pattern(projectFilesLabel(), QStringLiteral("*.kzfx *.kzf"))
+                        + text(QT_TRANSLATE_NOOP("MainWindow", "All Files")) + QStringLiteral(" (*)"),
+                    QString()};
+    }
+}
+
+QString FileSelection::imageImportFilter()
+{
+    return pattern(text(QT_TRANSLATE_NOOP("MainWindow", "Images")), morvane::importImageFilters);
+}
+
+QString FileSelection::pdfFilter()
+{
+    return pattern(text(QT_TRANSLATE_NOOP("MainWindow", "PDF files")), QStringLiteral("*.pdf"));
+}
+
+QString FileSelection::htmlFilter()
+{
+    return pattern(text(QT_TRANSLATE_NOOP("MainWindow", "HTML files")), QStringLiteral("*.HTML"));
+}
+
+QString FileSelection::startFolder(const Request &request) const
+{
+    if (!request.folderKey.isEmpty())
+        return m_settings.value(request.folderKey).toString();
+    if (request.filter.isEmpty())
+        return QString();
+    const QString projectFolder = m_projectFolder();
+    if (!projectFolder.isEmpty())
+        return projectFolder;
+    const QString last = m_settings.value(QStringLiteral("lastprojdirpath")).toString();
+    return last.isEmpty() ? QDir::homePath() + QLatin1Char('/') : last;
+}
+
+QString FileSelection::openFileDialog(int filterType)
+{
+    const Request request = requestFor(filterType);
+    const QString path = m_dialogs.openFile(request.caption, startFolder(request), request.filter);
+    if (path.isEmpty())
+        m_global.setAfterConfirmAction(Zum::NoAfterConfirmAction);
+    else if (!request.folderKey.isEmpty())
+        m_settings.setValue(request.folderKey, path);
+    return path;
+}
+
+QString FileSelection::selectFolderDialog(const QString &start)
+{
+    return m_dialogs.selectFolder(text(QT_TRANSLATE_NOOP("MainWindow", "Choose a folder...")), start);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "shared/Zum.h"
+
+#include <functional>
+#include <QObject>
+
+class Settings;
+class WebcamGlobal;
+
+namespace morvane {
+class Dialogs;
+}
+
+/// The open dialogs of the program: each kind of file has its caption, its filter and the folder it begins
+/// in.
+class FileSelection : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What a dialog of one kind shows.
+    struct Request
+    {
+        QString caption;
+        QString filter;
+        /// The settings key of the last file chosen; empty when it is not remembered.
+        QString folderKey;
+    };
+
+    /// `projectFolder` gives the open project's folder, or an empty string without a project.
+    FileSelection(morvane::Dialogs &dialogs, Settings &settings, WebcamGlobal &global,
+                  std::function<QString()> projectFolder, QObject *parent = nullptr);
+
+    /// A value that has no row of its own gives the row of project files.
+    static Request requestFor(int filterType);
+    /// Filters of the dialogs that are not opened by kind.
+    static QString imageImportFilter();
+    static QString pdfFilter();
+    static QString htmlFilter();
+
+    /// Opens the dialog and returns the chosen path. Giving up returns an empty string and clears a pending
+    /// after-confirm action.
+    QString openFileDialog(int filterType = Zum::ProjectFilesFilter);
+    QString selectFolderDialog(const QString &start);
+
+private:
+    QString startFolder(const Request &request) const;
+
+    morvane::Dialogs &m_dialogs;
+    Settings &m_settings;
+    WebcamGlobal &m_global;
+    std::function<QString()> m_projectFolder;
+};
