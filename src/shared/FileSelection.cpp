@@ -4,16 +4,13 @@
 #include "shared/Names.h"
 #include "shared/Settings.h"
 #include "shared/WebcamGlobal.h"
+#include "shared/WindowText.h"
 
-#include <QCoreApplication>
 #include <QDir>
 
-namespace {
+using morvane::windowText;
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("MainWindow", source);
-}
+namespace {
 
 QString pattern(const QString &label, const QString &filters)
 {
@@ -22,7 +19,7 @@ QString pattern(const QString &label, const QString &filters)
 
 QString projectFilesLabel()
 {
-    return QStringLiteral("Morvane ") + text(QT_TRANSLATE_NOOP("MainWindow", "project files"));
+    return QStringLiteral("Morvane ") + windowText(QT_TRANSLATE_NOOP("MainWindow", "project files"));
 }
 
 } // namespace
@@ -38,46 +35,47 @@ FileSelection::Request FileSelection::requestFor(int filterType)
 {
     switch (filterType) {
         case Zum::NewProjectFilesFilter:
-            return {text(QT_TRANSLATE_NOOP("MainWindow", "Open Project...")),
+            return {windowText(QT_TRANSLATE_NOOP("MainWindow", "Open Project...")),
                     pattern(projectFilesLabel(), QStringLiteral("*.kzfx")), QString()};
         case Zum::VideoFilesFilter:
-            return {
-                text(QT_TRANSLATE_NOOP("MainWindow", "Open Video...")),
-                pattern(text(QT_TRANSLATE_NOOP("MainWindow", "Video files")), morvane::videoFilters)
-                    + pattern(text(QT_TRANSLATE_NOOP("MainWindow", "Audio files")), QStringLiteral("*.mp3")),
-                QStringLiteral("lastvideodir")};
+            return {windowText(QT_TRANSLATE_NOOP("MainWindow", "Open Video...")),
+                    pattern(windowText(QT_TRANSLATE_NOOP("MainWindow", "Video files")), morvane::videoFilters)
+                        + pattern(windowText(QT_TRANSLATE_NOOP("MainWindow", "Audio files")),
+                                  QStringLiteral("*.mp3")),
+                    QStringLiteral("lastvideodir")};
         case Zum::ExpoImagesFilter:
-            return {text(QT_TRANSLATE_NOOP("MainWindow", "Open file...")),
-                    pattern(text(QT_TRANSLATE_NOOP("MainWindow", "Images")), morvane::exportImageFilters),
-                    QStringLiteral("lastbackgrounddir")};
+            return {
+                windowText(QT_TRANSLATE_NOOP("MainWindow", "Open file...")),
+                pattern(windowText(QT_TRANSLATE_NOOP("MainWindow", "Images")), morvane::exportImageFilters),
+                QStringLiteral("lastbackgrounddir")};
         case Zum::IccProfilesFilter:
-            return {text(QT_TRANSLATE_NOOP("MainWindow", "Open ICC Profile...")),
-                    pattern(text(QT_TRANSLATE_NOOP("MainWindow", "ICC profiles")), morvane::iccFilters),
+            return {windowText(QT_TRANSLATE_NOOP("MainWindow", "Open ICC Profile...")),
+                    pattern(windowText(QT_TRANSLATE_NOOP("MainWindow", "ICC profiles")), morvane::iccFilters),
                     QStringLiteral("lasticcpath")};
         case Zum::ExecudablesFilter:
-            return {text(QT_TRANSLATE_NOOP("MainWindow", "Choose an external editor...")), QString(),
+            return {windowText(QT_TRANSLATE_NOOP("MainWindow", "Choose an external editor...")), QString(),
                     QString()};
         default:
-            return {text(QT_TRANSLATE_NOOP("MainWindow", "Open Project...")),
+            return {windowText(QT_TRANSLATE_NOOP("MainWindow", "Open Project...")),
                     pattern(projectFilesLabel(), QStringLiteral("*.kzfx *.kzf"))
-                        + text(QT_TRANSLATE_NOOP("MainWindow", "All Files")) + QStringLiteral(" (*)"),
+                        + windowText(QT_TRANSLATE_NOOP("MainWindow", "All Files")) + QStringLiteral(" (*)"),
                     QString()};
     }
 }
 
 QString FileSelection::imageImportFilter()
 {
-    return pattern(text(QT_TRANSLATE_NOOP("MainWindow", "Images")), morvane::importImageFilters);
+    return pattern(windowText(QT_TRANSLATE_NOOP("MainWindow", "Images")), morvane::importImageFilters);
 }
 
 QString FileSelection::pdfFilter()
 {
-    return pattern(text(QT_TRANSLATE_NOOP("MainWindow", "PDF files")), QStringLiteral("*.pdf"));
+    return pattern(windowText(QT_TRANSLATE_NOOP("MainWindow", "PDF files")), QStringLiteral("*.pdf"));
 }
 
 QString FileSelection::htmlFilter()
 {
-    return pattern(text(QT_TRANSLATE_NOOP("MainWindow", "HTML files")), QStringLiteral("*.HTML"));
+    return pattern(windowText(QT_TRANSLATE_NOOP("MainWindow", "HTML files")), QStringLiteral("*.HTML"));
 }
 
 QString FileSelection::startFolder(const Request &request) const
@@ -106,5 +104,5 @@ QString FileSelection::openFileDialog(int filterType)
 
 QString FileSelection::selectFolderDialog(const QString &start)
 {
-    return m_dialogs.selectFolder(text(QT_TRANSLATE_NOOP("MainWindow", "Choose a folder...")), start);
+    return m_dialogs.selectFolder(windowText(QT_TRANSLATE_NOOP("MainWindow", "Choose a folder...")), start);
 }
