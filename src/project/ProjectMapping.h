@@ -2,7 +2,8 @@
 
 #include "project/ProjectDocument.h"
 #include "project/ProjectNeighbours.h"
-#include "project/ProjectTree.h"
+
+#include <QCoreApplication>
 
 class MessageCentre;
 class WebcamGlobal;
@@ -10,6 +11,8 @@ class WebcamGlobal;
 /// The way between a project document and the live objects. Main thread only.
 class ProjectMapping
 {
+    Q_DECLARE_TR_FUNCTIONS(ProjectMapping)
+
 public:
     enum class Rows {
         Include,
@@ -24,12 +27,12 @@ public:
     ProjectDocument collect(Rows rows = Rows::Include) const;
 
     /// Puts the settings of a document into the live objects, group by group in the order in which the
-    /// program relies on them; what the document leaves empty stays. The frames are not touched. `tree` holds
-    /// the project's folders. An expected element that is missing is logged.
-    void apply(const ProjectDocument &document, const ProjectTree &tree);
+    /// program relies on them; what the document leaves empty stays. The frames are not touched. An expected
+    /// element that is missing is logged; an export folder or a colour that cannot be used is reported.
+    void apply(const ProjectDocument &document);
 
 private:
-    void applyBackground(const ProjectDocument::Background &background, const ProjectTree &tree);
+    void applyBackground(const ProjectDocument::Background &background);
     void applyAnimation(const QMap<QString, int> &animation);
     void applyFrameSettings(const ProjectDocument::Frames &settings);
     void applyExposureAndSizes(const ProjectDocument::Frames &settings);
@@ -43,7 +46,13 @@ private:
     void applyInfo(const ProjectDocument::Info &info);
     void applyFilters(const ProjectDocument::Filters &filters);
 
+    QColor colorOr(const std::optional<QString> &name, const QColor &standard) const;
+
     ProjectDocument::Frames collectFrameSettings() const;
+    void collectOverlays(ProjectDocument::Frames &settings) const;
+    void collectPicture(ProjectDocument::Frames &settings) const;
+    void collectTimeline(ProjectDocument::Frames &settings) const;
+    ProjectDocument::Path collectPath() const;
     ProjectDocument::Camera collectCamera() const;
     ProjectDocument::Render collectRender() const;
     ProjectDocument::Filters collectFilters() const;

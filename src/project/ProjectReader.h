@@ -30,6 +30,8 @@ struct ProjectReadResult
     Status status = Status::CannotOpen;
     /// The parser's message with line and column, or what is wrong with the version. Empty when all is well.
     QString error;
+    /// Whether the file has a Version element at all.
+    bool hasVersion = true;
     /// The version check's line for the log, or empty.
     QString logLine;
     /// Values refused because they reach outside the project or make no sense, one sentence each. Past the

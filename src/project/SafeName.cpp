@@ -14,7 +14,9 @@ bool isBareFileName(const QString &name)
     const bool clean = std::none_of(name.cbegin(), name.cend(), [](QChar c) {
         return c == u'/' || c == u'\\' || c.unicode() < 0x20 || c.unicode() == 0x7f;
     });
-    return clean && !hasDrive && name.toUtf8().size() <= maxFileNameBytes;
+    // A UTF-16 unit takes three bytes at most, so that a short name need not be converted to be measured.
+    const bool fits = name.size() * 3 <= maxFileNameBytes || name.toUtf8().size() <= maxFileNameBytes;
+    return clean && !hasDrive && fits;
 }
 
 } // namespace morvane
