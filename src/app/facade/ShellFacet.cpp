@@ -85,8 +85,3 @@ void ShellFacet::setTitle()
                   controllers().lifecycle.allowQuietExit() ? QString() : QStringLiteral("*"));
     setTitle(title);
 }
-
-void ShellFacet::addLastProject()
-{
-    controllers().rememberProject();
-}
