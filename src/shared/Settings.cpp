@@ -122,9 +122,12 @@ bool Settings::boolean(const QString &key, bool fallback) const
 
 int Settings::integer(const QString &key, int fallback) const
 {
+    const QVariant stored = m_store->value(key);
     bool ok = false;
-    const int stored = m_store->value(key).toInt(&ok);
-    return ok ? stored : fallback;
+    // A text is read by itself: a variant would cut a number that is too large.
+    const int number =
+        stored.typeId() == QMetaType::QString ? stored.toString().toInt(&ok) : stored.toInt(&ok);
+    return ok ? number : fallback;
 }
 
 int Settings::integer(const QString &key, int fallback, int lowest, int highest) const

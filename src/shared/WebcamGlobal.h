@@ -70,7 +70,7 @@ private:
     void updateCoordSystemSize();
     void computeScales();
 
-    QTimer m_scaleTimer;
+    QTimer m_scaleTimer{this};
     int m_availableWidth = 0;
     int m_availableHeight = 0;
 };
