@@ -29,6 +29,6 @@ function(morvane_scene target)
 
     set_source_files_properties(${units} ${folder}/loader.cpp PROPERTIES SKIP_AUTOGEN ON)
     target_sources(${target} PRIVATE ${units} ${folder}/loader.cpp)
-    target_link_libraries(${target} PRIVATE Qt6::Quick Qt6::QmlPrivate)
+    target_link_libraries(${target} PRIVATE Qt6::Qml)
     qt_add_resources(${target} ${target}_files PREFIX / FILES ${ARG_FILES})
 endfunction()
