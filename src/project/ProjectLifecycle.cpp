@@ -40,8 +40,6 @@ ProjectLifecycle::ProjectLifecycle(const ProjectServices &services, ProjectPaths
     connect(&global, &WebcamGlobal::changed, this, &ProjectLifecycle::projectChanged);
     connect(&global, &WebcamGlobal::globalSave, this, &ProjectLifecycle::projectChanged);
     connect(&global, &WebcamGlobal::saved, this, &ProjectLifecycle::projectSaved);
-    connect(this, &ProjectLifecycle::connectModel, &global, &WebcamGlobal::connectModel);
-    connect(this, &ProjectLifecycle::disconnectModel, &global, &WebcamGlobal::disconnectModel);
     connect(&paths, &ProjectPaths::projPathChanged, this, &ProjectLifecycle::projPathChanged);
     connect(this, &ProjectLifecycle::loadingProjectChanged, this, [this] {
         if (!loadingProject())

@@ -129,7 +129,7 @@ int ProjectLifecycle::takeReadResult(const ProjectReadResult &result)
     if (event != Zum::FileIsOk)
         return event;
     resetProject(Reset::BeforeReading);
-    m_mapping.apply(result.document, m_paths.tree());
+    m_mapping.apply(result.document);
     emit startProjectLoad();
     takeFrames(result.document.frames);
     return Zum::FileIsOk;
@@ -222,7 +222,7 @@ void ProjectLifecycle::lookForOrphans()
 {
     if (ProjectCleanup::sharesContentFolder(m_paths.tree()))
         return;
-    const auto search = QtConcurrent::run(OrphanImages::find, m_paths.tree(), m_frames.projectFrames());
+    auto search = QtConcurrent::run(OrphanImages::find, m_paths.tree(), m_frames.projectFrames());
     search.then(this, [this, generation = m_generation](const QStringList &names) {
         if (generation == m_generation && m_projectLoaded && !names.isEmpty())
             offerOrphans(names);
@@ -254,7 +254,7 @@ void ProjectLifecycle::offerOrphans(const QStringList &names)
 void ProjectLifecycle::addOrphans(const QStringList &names)
 {
     const QSize bounds = (thumbnailSize * Zum::dpiScale()).toSize();
-    const auto making = QtConcurrent::run(OrphanImages::asFrames, names, m_paths.tree(), bounds);
+    auto making = QtConcurrent::run(OrphanImages::asFrames, names, m_paths.tree(), bounds);
     making.then(this, [this, generation = m_generation](const QList<ProjectFrame> &frames) {
         if (generation != m_generation || !m_projectLoaded)
             return;
