@@ -12,8 +12,10 @@ FocusScope {
     // Sends more clicks while the mouse button is held.
     property bool autoRepeat: false
     property bool tabStop: true
+    // Whether the toggled state shows in the ground; off where a control has a sign of its own for it.
+    property bool framed: true
     property int role: Accessible.Button
-    property color ground: toggled ? (hovered ? Theme.toggledHovered : Theme.toggled)
+    property color ground: toggled && framed ? (hovered ? Theme.toggledHovered : Theme.toggled)
                                    : (hovered ? Theme.buttonHovered : Theme.button)
     default property alias content: face.data
     readonly property bool hovered: hover.hovered && body.enabled
@@ -76,6 +78,9 @@ FocusScope {
             anchors.fill: parent
             radius: Theme.corner
             color: button.pressed ? Theme.buttonPressed : button.ground
+            border.width: button.framed && button.toggled ? 1 : 0
+            border.color: Theme.toggledLine
+            opacity: button.framed && button.toggled ? face.opacity : 1
         }
 
         Item {

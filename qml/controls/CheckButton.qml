@@ -12,6 +12,7 @@ ButtonBase {
     label: text !== "" ? text : toolTip
     role: Accessible.CheckBox
     toggled: checked
+    framed: false
     ground: hovered ? Theme.buttonHovered : "transparent"
     implicitWidth: box.width + (text !== "" ? Theme.spacing + Math.ceil(caption.implicitWidth) : 0)
                    + 2 * DefFontSizePico

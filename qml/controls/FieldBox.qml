@@ -40,8 +40,8 @@ Rectangle {
         }
 
         anchors.fill: parent
-        anchors.leftMargin: DefFontSizePico
-        anchors.rightMargin: DefFontSizePico
+        anchors.leftMargin: Theme.spacing
+        anchors.rightMargin: Theme.spacing
         focus: true
         activeFocusOnTab: true
         clip: true

@@ -21,10 +21,18 @@ FocusScope {
     implicitWidth: (label !== "" ? Math.ceil(caption.implicitWidth) + Theme.spacing : 0) + entry.wantedWidth
     implicitHeight: Theme.controlHeight
 
-    FontMetrics {
-        id: metrics
+    TextMetrics {
+        id: lowest
 
         font: box.input.font
+        text: field.minimum.toFixed(field.decimals)
+    }
+
+    TextMetrics {
+        id: highest
+
+        font: box.input.font
+        text: field.maximum.toFixed(field.decimals)
     }
 
     TextLabel {
@@ -42,8 +50,7 @@ FocusScope {
     QNumImput {
         id: entry
 
-        readonly property real widestText: Math.max(metrics.advanceWidth(textOf(field.minimum)),
-                                                    metrics.advanceWidth(textOf(field.maximum)))
+        readonly property real widestText: Math.max(lowest.advanceWidth, highest.advanceWidth)
         readonly property real suffixWidth: suffixLabel.visible ? Math.ceil(suffixLabel.implicitWidth)
                                                                   + DefFontSizePico : 0
         readonly property real wantedWidth: Math.max(DefFontSizeNormal_x2, Math.ceil(widestText))
@@ -64,16 +71,14 @@ FocusScope {
             entry.value = Qt.binding(() => field.number)
         }
 
-        IconButton {
+        StepButton {
             id: minus
 
             anchors.left: parent.left
-            icon: "svgicons/minus.svg"
+            plus: false
             toolTip: field.toolTip
             label: qsTr("Decrease") + " " + (field.label !== "" ? field.label : field.toolTip)
             active: entry.value > field.minimum
-            autoRepeat: true
-            tabStop: false
             onClicked: entry.stepBy(-1)
         }
 
@@ -84,11 +89,11 @@ FocusScope {
             anchors.right: plus.left
             anchors.margins: 1
             height: parent.height
-            focus: true
             toolTip: field.toolTip
             label: field.label
             role: Accessible.SpinBox
             input.text: entry.text
+            input.anchors.leftMargin: DefFontSizePico
             input.anchors.rightMargin: DefFontSizePico + entry.suffixWidth
             input.horizontalAlignment: TextInput.AlignHCenter
             input.onTextEdited: entry.text = input.text
@@ -108,16 +113,13 @@ FocusScope {
             }
         }
 
-        IconButton {
+        StepButton {
             id: plus
 
             anchors.right: parent.right
-            icon: "svgicons/plus.svg"
             toolTip: field.toolTip
             label: qsTr("Increase") + " " + (field.label !== "" ? field.label : field.toolTip)
             active: entry.value < field.maximum
-            autoRepeat: true
-            tabStop: false
             onClicked: entry.stepBy(1)
         }
     }

@@ -5,6 +5,7 @@ TextButton {
     id: tab
 
     role: Accessible.PageTab
+    framed: false
     ground: hovered ? Theme.buttonHovered : toggled ? Theme.well : "transparent"
 
     Rectangle {

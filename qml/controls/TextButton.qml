@@ -6,6 +6,7 @@ ButtonBase {
 
     property string text: ""
     property string icon: ""
+    property string trailingIcon: ""
     property bool small: false
 
     label: text !== "" ? text : toolTip
@@ -15,10 +16,11 @@ ButtonBase {
         id: row
 
         readonly property real gap: button.icon !== "" && button.text !== "" ? Theme.spacing : 0
-        readonly property real wanted: picture.width + gap + caption.implicitWidth
+        readonly property real endGap: button.trailingIcon !== "" ? DefFontSizePico : 0
+        readonly property real pictures: picture.width + gap + endGap + trailing.width
+        readonly property real wanted: pictures + caption.implicitWidth
 
         anchors.centerIn: parent
-        spacing: gap
 
         Icon {
             id: picture
@@ -28,16 +30,34 @@ ButtonBase {
             size: Theme.smallIconSize
         }
 
+        Item {
+            width: row.gap
+            height: 1
+        }
+
         TextLabel {
             id: caption
 
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(Math.ceil(implicitWidth),
-                            Math.max(0, button.width - 2 * DefFontSizePico - picture.width - row.gap))
+                            Math.max(0, button.width - 2 * DefFontSizePico - row.pictures))
             text: button.text
             small: button.small
             color: button.toggled ? Theme.active : Theme.text
             Accessible.ignored: true
+        }
+
+        Item {
+            width: row.endGap
+            height: 1
+        }
+
+        Icon {
+            id: trailing
+
+            anchors.verticalCenter: parent.verticalCenter
+            icon: button.trailingIcon
+            size: DefFontSizeNormal
         }
     }
 }

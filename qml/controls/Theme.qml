@@ -19,6 +19,7 @@ QtObject {
     // A trace of the active colour, so that the lines of an icon keep their contrast.
     readonly property color toggled: "#4d3610"
     readonly property color toggledHovered: "#5c4013"
+    readonly property color toggledLine: "#8a5a0c"
 
     readonly property real disabledOpacity: 0.4
 

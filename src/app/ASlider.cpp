@@ -20,6 +20,8 @@ qreal withoutDust(qreal value)
 ASlider::ASlider(QQuickItem *parent) : QQuickItem(parent)
 {
     setAcceptedMouseButtons(Qt::LeftButton);
+    // Here, for a type of a module 1.0 the scene cannot: the property came with a later revision of the base.
+    setActiveFocusOnTab(true);
     connect(this, &ASlider::valueChanged, this, &ASlider::positionChanged);
     connect(this, &ASlider::minimumChanged, this, &ASlider::positionChanged);
     connect(this, &ASlider::maximumChanged, this, &ASlider::positionChanged);

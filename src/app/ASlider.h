@@ -10,7 +10,7 @@
 /// A value set by the owner is taken as it is, also outside the limits, and sends no moved(). The user's
 /// moves stay within the limits: dragging and clicking, Left and Down, Right and Up (one step), PageUp and
 /// PageDown (ten steps), Home and End, the wheel (one step), and a double click or Backspace, which give the
-/// default value. An item of the QML type "Aslider".
+/// default value. Tab comes to it. Its name in QML is "Aslider".
 class ASlider : public QQuickItem
 {
     Q_OBJECT

@@ -35,7 +35,7 @@ public:
     void setText(const QString &text);
 
     /// A value as this field writes it.
-    Q_INVOKABLE QString textOf(qreal value) const;
+    QString textOf(qreal value) const;
 
 public slots:
     void commit();

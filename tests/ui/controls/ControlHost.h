@@ -51,6 +51,7 @@ struct AccessibleFacts
 {
     QString name;
     int role = 0;
+    /// Of the item itself: the oldest toolkit that the program runs with does not pass it on.
     bool disabled = false;
     bool checked = false;
     bool focusable = false;
