@@ -40,7 +40,10 @@ Item {
             TextLabel {
                 objectName: "docsHeading"
                 width: Math.min(column.width, docsPage.width - column.x - docsPage.rightRoom)
-                wrapMode: Text.Wrap
+                // A word too long for a narrow window makes the heading smaller rather than breaking.
+                wrapMode: Text.WordWrap
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: DefFontSizeNano
                 elide: Text.ElideNone
                 text: docsPage.page.title ?? ""
                 font.pixelSize: DefFontSizeNormal_x2

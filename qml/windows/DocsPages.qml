@@ -38,7 +38,7 @@ Item {
         anchors.bottom: parent.bottom
         visible: docsPages.hasPages
         page: docsPages.hasPages ? docsPages.view.pages[docsPages.view.currentPage] : ({ })
-        rightRoom: buttons.width + 2 * DefFontSizeMicro
+        rightRoom: buttons.width + scrollBarW + 2 * DefFontSizeMicro
     }
 
     EmptyState {

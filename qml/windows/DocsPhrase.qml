@@ -46,6 +46,7 @@ Column {
                 width: docsPhrase.firstColumn - Theme.padding
                 wrapMode: Text.Wrap
                 elide: Text.ElideNone
+                lineHeight: 1.2
                 text: line.modelData.substring(0, line.mark)
                 color: "#ffffff"
             }

@@ -55,7 +55,9 @@ Rectangle {
                 x: Theme.padding + 3
                 width: entry.width - 2 * x
                 height: entry.height
-                wrapMode: Text.Wrap
+                wrapMode: Text.WordWrap
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: DefFontSizeNano
                 elide: Text.ElideNone
                 text: entry.modelData.title
                 color: entry.toggled ? Theme.active : Theme.text
