@@ -67,7 +67,8 @@ void MainWindow::publishContext()
 {
     AppControllers &c = controllers();
     const int density = ScreenDensity::snapped(c.environment.logicalDpi);
-    const morvane::FontChoice font = morvane::chooseFont(c.settings().value(QStringLiteral("fontsize")), density);
+    const morvane::FontChoice font =
+        morvane::chooseFont(c.settings().value(QStringLiteral("fontsize")), density);
     const double scale = morvane::dpiScaleOf(font.sizes);
     c.global.setFontSize(font.chosenIndex);
     Zum::setDpiScale(scale);
@@ -80,22 +81,25 @@ void MainWindow::publishContext()
     context->setContextProperty(QStringLiteral("FramesModel"), &c.frames);
     context->setContextProperty(QStringLiteral("WebcamGlobal"), &c.global);
     context->setContextProperty(QStringLiteral("CurvesModel"), &c.curves);
-    context->setContextProperties(
-        morvane::contextValues({font, scale, startup::timelineScale(c.settings()), EventSounds::available()}));
+    context->setContextProperties(morvane::contextValues(
+        {font, scale, startup::timelineScale(c.settings()), EventSounds::available()}));
 }
 
 void MainWindow::connectControllers()
 {
     AppControllers &c = controllers();
     QClipboard *clipboard = QGuiApplication::clipboard();
-    connect(clipboard, &QClipboard::dataChanged, this,
-            [this, clipboard] { controllers().clipboard.clipboardChanged(clipboard->mimeData(), projectLoaded()); });
-    connect(this, &MainWindow::disconnectModel, &c.global, &WebcamGlobal::disconnectModel, Qt::UniqueConnection);
+    connect(clipboard, &QClipboard::dataChanged, this, [this, clipboard] {
+        controllers().clipboard.clipboardChanged(clipboard->mimeData(), projectLoaded());
+    });
+    connect(this, &MainWindow::disconnectModel, &c.global, &WebcamGlobal::disconnectModel,
+            Qt::UniqueConnection);
     connect(this, &MainWindow::connectModel, &c.global, &WebcamGlobal::connectModel, Qt::UniqueConnection);
     connect(this, &MainWindow::appendMessage, &c.global, &WebcamGlobal::appendMessage, Qt::UniqueConnection);
     connect(this, &MainWindow::currentCapturingDeviceChanged, this, qOverload<>(&MainWindow::setTitle),
             Qt::UniqueConnection);
-    connect(&c.global, &WebcamGlobal::connectedChanged, this, &MainWindow::cameraConnected, Qt::UniqueConnection);
+    connect(&c.global, &WebcamGlobal::connectedChanged, this, &MainWindow::cameraConnected,
+            Qt::UniqueConnection);
     connect(&c.global, &WebcamGlobal::cameraNameChanged, this, &MainWindow::updateCurrentCapturingDeviceIcon,
             Qt::UniqueConnection);
     connect(&c.global, &WebcamGlobal::cameraNameChanged, this, &MainWindow::updateCurrentDeviceType,
@@ -103,7 +107,8 @@ void MainWindow::connectControllers()
     connect(this, &MainWindow::capturingDeviceObjectChanged, this, &MainWindow::updateCurrentDeviceType,
             Qt::UniqueConnection);
     connect(&c.frames, &FramesModel::connectModel, this, &MainWindow::connectModel, Qt::UniqueConnection);
-    connect(&c.frames, &FramesModel::disconnectModel, this, &MainWindow::disconnectModel, Qt::UniqueConnection);
+    connect(&c.frames, &FramesModel::disconnectModel, this, &MainWindow::disconnectModel,
+            Qt::UniqueConnection);
     connect(&c.frames, &FramesModel::progressTotalChanged, this, &MainWindow::setProgressTotal,
             Qt::UniqueConnection);
     connect(&c.frames, &FramesModel::progressCurrentChanged, this, &MainWindow::setProgressCurrent,
@@ -127,22 +132,22 @@ void MainWindow::openNamedProject(const QStringList &arguments)
 bool MainWindow::event(QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::DragEnter:
-    case QEvent::DragMove: {
-        auto *drag = static_cast<QDragMoveEvent *>(event);
-        drag->setAccepted(drag->mimeData()->hasFormat(QStringLiteral("text/uri-list")));
-        return true;
-    }
-    case QEvent::Drop: {
-        auto *drop = static_cast<QDropEvent *>(event);
-        if (drop->mimeData()->hasFormat(QStringLiteral("text/uri-list"))) {
-            drop->acceptProposedAction();
-            takeDrop(drop->mimeData()->urls());
+        case QEvent::DragEnter:
+        case QEvent::DragMove: {
+            auto *drag = static_cast<QDragMoveEvent *>(event);
+            drag->setAccepted(drag->mimeData()->hasFormat(QStringLiteral("text/uri-list")));
+            return true;
         }
-        return true;
-    }
-    default:
-        return ShellFacet::event(event);
+        case QEvent::Drop: {
+            auto *drop = static_cast<QDropEvent *>(event);
+            if (drop->mimeData()->hasFormat(QStringLiteral("text/uri-list"))) {
+                drop->acceptProposedAction();
+                takeDrop(drop->mimeData()->urls());
+            }
+            return true;
+        }
+        default:
+            return ShellFacet::event(event);
     }
 }
 
@@ -151,18 +156,19 @@ void MainWindow::takeDrop(const QList<QUrl> &urls)
     WebcamGlobal &global = controllers().global;
     const DroppedFile file = droppedFile(urls, global.currentActiveTab());
     switch (file.kind) {
-    case DroppedFile::Kind::Project:
-        projectFileOpen(file.path);
-        break;
-    case DroppedFile::Kind::Video:
-        global.setPlayerPlaying(false);
-        global.setPlayerSource(file.path);
-        break;
-    case DroppedFile::Kind::Image:
-        controllers().messages.post(Zum::FileMessage, Zum::Info, tr("This version cannot import pictures yet."));
-        break;
-    case DroppedFile::Kind::Nothing:
-        break;
+        case DroppedFile::Kind::Project:
+            projectFileOpen(file.path);
+            break;
+        case DroppedFile::Kind::Video:
+            global.setPlayerPlaying(false);
+            global.setPlayerSource(file.path);
+            break;
+        case DroppedFile::Kind::Image:
+            controllers().messages.post(Zum::FileMessage, Zum::Info,
+                                        tr("This version cannot import pictures yet."));
+            break;
+        case DroppedFile::Kind::Nothing:
+            break;
     }
 }
 

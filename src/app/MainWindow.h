@@ -4,8 +4,8 @@
 
 #include <QStringList>
 
-/// The main window, and the object that the scene calls "MainWindow". What it offers is declared facet by facet
-/// in app/facade; this class makes the window stand, loads the scene and takes the window's events.
+/// The main window, and the object that the scene calls "MainWindow". What it offers is declared facet by
+/// facet in app/facade; this class makes the window stand, loads the scene and takes the window's events.
 class MainWindow : public ShellFacet
 {
     Q_OBJECT

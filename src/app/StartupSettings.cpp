@@ -37,17 +37,19 @@ int timelineScale(const Settings &settings)
 QString complaint(const Settings &settings)
 {
     switch (settings.health()) {
-    case Settings::Health::Damaged:
-        return QCoreApplication::translate("MainWindow",
-                                           "The settings file was damaged. It is kept as %1, and the program "
-                                           "starts with its defaults.")
-            .arg(settings.damagedCopyPath());
-    case Settings::Health::ReadOnly:
-        return QCoreApplication::translate(
-                   "MainWindow", "The settings file %1 cannot be written. Changes last until the program ends.")
-            .arg(settings.filePath());
-    case Settings::Health::Good:
-        break;
+        case Settings::Health::Damaged:
+            return QCoreApplication::translate(
+                       "MainWindow",
+                       "The settings file was damaged. It is kept as %1, and the program "
+                       "starts with its defaults.")
+                .arg(settings.damagedCopyPath());
+        case Settings::Health::ReadOnly:
+            return QCoreApplication::translate(
+                       "MainWindow",
+                       "The settings file %1 cannot be written. Changes last until the program ends.")
+                .arg(settings.filePath());
+        case Settings::Health::Good:
+            break;
     }
     return QString();
 }

@@ -7,9 +7,9 @@
 #include "shared/Zum.h"
 #include "timeline/Progress.h"
 
+#include <qqml.h>
 #include <QPainterPath>
 #include <QPolygonF>
-#include <qqml.h>
 
 namespace typeregistry {
 

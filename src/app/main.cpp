@@ -43,7 +43,8 @@ int main(int argc, char *argv[])
 
     int result = 0;
     {
-        MainWindow window(std::make_unique<AppControllers>(std::move(environment)), QCoreApplication::arguments());
+        MainWindow window(std::make_unique<AppControllers>(std::move(environment)),
+                          QCoreApplication::arguments());
         window.show();
         QTimer::singleShot(1500, &splash, &QWidget::close);
         result = QApplication::exec();

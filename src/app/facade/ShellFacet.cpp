@@ -5,7 +5,9 @@
 
 #include <QCloseEvent>
 
-ShellFacet::ShellFacet(std::unique_ptr<AppControllers> controllers) : ProjectFacet(std::move(controllers)) {}
+ShellFacet::ShellFacet(std::unique_ptr<AppControllers> controllers) : ProjectFacet(std::move(controllers))
+{
+}
 
 QString ShellFacet::qmlDialogUrl() const
 {
@@ -79,11 +81,7 @@ void ShellFacet::quitApplication()
 void ShellFacet::setTitle()
 {
     QString title = appinfo::windowTitle(currentCapturingDeviceType(), idealThreads(), projPath());
-    title.replace(QStringLiteral("[*]"), controllers().lifecycle.allowQuietExit() ? QString() : QStringLiteral("*"));
+    title.replace(QStringLiteral("[*]"),
+                  controllers().lifecycle.allowQuietExit() ? QString() : QStringLiteral("*"));
     setTitle(title);
-}
-
-void ShellFacet::addLastProject()
-{
-    controllers().rememberProject();
 }

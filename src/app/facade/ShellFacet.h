@@ -37,7 +37,6 @@ public slots:
     void quitApplication();
     /// Writes the title anew from what the program knows.
     void setTitle();
-    void addLastProject();
 
 signals:
     void qmlDialogUrlChanged();

@@ -13,7 +13,8 @@ QString VocabularyFacet::formatNumber(int value) const
     return morvane::formatNumber(value);
 }
 
-QString VocabularyFacet::formatSetOfNumbers(const QVariantList &vlist, const QString &separator, int size) const
+QString VocabularyFacet::formatSetOfNumbers(const QVariantList &vlist, const QString &separator,
+                                            int size) const
 {
     return morvane::formatSetOfNumbers(vlist, separator, size);
 }

@@ -12,7 +12,7 @@ constexpr QSizeF thumbnailSize{90, 60};
 bool isUserInput(QEvent::Type type)
 {
     return type == QEvent::KeyPress || type == QEvent::MouseMove || type == QEvent::MouseButtonPress
-        || type == QEvent::Wheel;
+           || type == QEvent::Wheel;
 }
 
 } // namespace
