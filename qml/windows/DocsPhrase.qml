@@ -84,7 +84,7 @@ Column {
         height: Math.max(Theme.controlHeight, address.height + Theme.padding)
         visible: label !== ""
         label: docsPhrase.phrase.weblink
-        toolTip: qsTr("Open in the web browser")
+        toolTip: qsTranslate("MorvaneRoot", "Open in the web browser")
         onClicked: MainWindow.openUrlExternally(docsPhrase.phrase.weblink)
 
         TextMetrics {

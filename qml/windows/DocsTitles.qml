@@ -11,7 +11,7 @@ Rectangle {
 
     color: GlobalDarkerColor
     Accessible.role: Accessible.List
-    Accessible.name: qsTr("Titles")
+    Accessible.name: qsTranslate("MorvaneRoot", "Titles")
 
     ListView {
         id: list
