@@ -9,13 +9,16 @@ function(morvane_scene target)
     set(folder ${CMAKE_CURRENT_BINARY_DIR}/compiled)
     file(MAKE_DIRECTORY ${folder})
 
+    set(map ${CMAKE_CURRENT_BINARY_DIR}/.rcc/${target}_files.qrc)
+
     foreach(file IN LISTS ARG_FILES)
         cmake_path(GET file FILENAME name)
         set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${name})
         if(NOT name STREQUAL "qmldir")
             string(REPLACE "." "_" unit ${name})
             add_custom_command(OUTPUT ${folder}/${unit}.cpp
-                COMMAND Qt6::qmlcachegen --bare --resource-path /${name} -o ${folder}/${unit}.cpp ${file}
+                COMMAND Qt6::qmlcachegen --bare --only-bytecode --resource ${map}
+                    --resource-path /${name} -o ${folder}/${unit}.cpp ${file}
                 DEPENDS ${file} VERBATIM)
             list(APPEND units ${folder}/${unit}.cpp)
             string(APPEND paths "/${name}\n")
@@ -23,12 +26,13 @@ function(morvane_scene target)
     endforeach()
 
     file(GENERATE OUTPUT ${folder}/paths.txt CONTENT "${paths}")
-    add_custom_command(OUTPUT ${folder}/loader.cpp
-        COMMAND Qt6::qmlcachegen --resource-name qmlcache_${target} -o ${folder}/loader.cpp @${folder}/paths.txt
+    add_custom_command(OUTPUT ${folder}/qmlcache_loader.cpp
+        COMMAND Qt6::qmlcachegen --resource-name qmlcache_${target} -o ${folder}/qmlcache_loader.cpp @${folder}/paths.txt
         DEPENDS ${folder}/paths.txt VERBATIM)
 
-    set_source_files_properties(${units} ${folder}/loader.cpp PROPERTIES SKIP_AUTOGEN ON)
-    target_sources(${target} PRIVATE ${units} ${folder}/loader.cpp)
+    set_source_files_properties(${units} ${folder}/qmlcache_loader.cpp PROPERTIES SKIP_AUTOGEN ON)
+    target_sources(${target} PRIVATE ${units} ${folder}/qmlcache_loader.cpp)
     target_link_libraries(${target} PRIVATE Qt6::Qml)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 30)
     qt_add_resources(${target} ${target}_files PREFIX / FILES ${ARG_FILES})
 endfunction()

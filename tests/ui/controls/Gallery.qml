@@ -2,8 +2,8 @@ import QtQuick
 
 // Every control in its states, to be looked at.
 Flow {
-    anchors.fill: parent
-    anchors.margins: DefFontSizeNormal
+    y: DefFontSizeNormal
+    height: parent.height - 2 * DefFontSizeNormal
     flow: Flow.TopToBottom
     spacing: DefFontSizeNormal
 
