@@ -40,13 +40,11 @@ Item {
             TextLabel {
                 objectName: "docsHeading"
                 width: Math.min(column.width, docsPage.width - column.x - docsPage.rightRoom)
-                // A word too long for a narrow window makes the heading smaller rather than breaking.
-                wrapMode: Text.WordWrap
-                fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: DefFontSizeNano
+                wrapMode: Text.Wrap
                 elide: Text.ElideNone
                 text: docsPage.page.title ?? ""
-                font.pixelSize: DefFontSizeNormal_x2
+                // A narrow page has room for a word of fifteen letters.
+                font.pixelSize: Math.max(DefFontSizeSmaler, Math.min(DefFontSizeNormal_x2, Math.floor(width / 9.6)))
                 Accessible.role: Accessible.Heading
             }
 

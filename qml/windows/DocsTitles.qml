@@ -55,11 +55,11 @@ Rectangle {
                 x: Theme.padding + 3
                 width: entry.width - 2 * x
                 height: entry.height
-                wrapMode: Text.WordWrap
-                fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: DefFontSizeNano
+                wrapMode: Text.Wrap
                 elide: Text.ElideNone
                 text: entry.modelData.title
+                // A narrow list has room for a word of fifteen letters.
+                font.pixelSize: Math.max(DefFontSizeNano, Math.min(DefFontSizeNormal, Math.floor(width / 9.6)))
                 color: entry.toggled ? Theme.active : Theme.text
                 Accessible.ignored: true
             }
