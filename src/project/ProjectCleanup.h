@@ -3,10 +3,12 @@
 #include "project/ProjectDocument.h"
 #include "project/ProjectTree.h"
 
+#include <QCoreApplication>
+#include <QDateTime>
 #include <QFlags>
-#include <QPromise>
 #include <QSet>
-#include <QStringList>
+
+class PoolProgress;
 
 /// Removes the files of a project's folders that nothing names any more. Works on values, on any thread.
 ///
@@ -14,6 +16,8 @@
 /// RAW and TIFF versions and the recycle folder stay.
 class ProjectCleanup
 {
+    Q_DECLARE_TR_FUNCTIONS(ProjectCleanup)
+
 public:
     enum Folder {
         /// Captured pictures that no row names.
@@ -26,18 +30,22 @@ public:
         Cache = 0x08,
         /// Background pictures but the one in use.
         Background = 0x10,
-        AllFolders = 0x1f,
     };
     Q_DECLARE_FLAGS(Folders, Folder)
+    static constexpr Folders allFolders = Folders::fromInt(0x1f);
 
-    /// Names that must stay, by folder; bare file names.
-    struct Names
+    /// What must stay.
+    struct Keep
     {
+        /// Bare file names by folder.
         QSet<QString> captured;
         QSet<QString> reference;
         QSet<QString> background;
+        /// A file written after this moment stays: it may be a picture whose row is still to come.
+        QDateTime asOf;
 
-        static Names of(const QList<ProjectFrame> &frames, const QString &backgroundImage);
+        static Keep of(const QList<ProjectFrame> &frames, const QString &backgroundImage,
+                       const QDateTime &now = QDateTime::currentDateTime());
     };
 
     struct Outcome
@@ -46,9 +54,12 @@ public:
         int failed = 0;
     };
 
-    /// Progress goes to the promise: the total is a folder's entries, the text names it. Stops between two
-    /// files when the promise is cancelled.
-    static void run(QPromise<Outcome> &promise, Folders folders, const Names &names, const ProjectTree &tree);
+    /// Stops between two files when cancelled.
+    static Outcome run(PoolProgress &progress, Folders folders, const Keep &keep, const ProjectTree &tree);
+
+    /// Whether another project file beside this one uses the same content folder. Pictures that this project
+    /// does not name may then be the other's.
+    static bool sharesContentFolder(const ProjectTree &tree);
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(ProjectCleanup::Folders)

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "project/FrameFileOperations.h"
-#include "project/OrphanImages.h"
 #include "project/ProjectLock.h"
 #include "project/ProjectMapping.h"
 #include "project/ProjectReport.h"
 #include "project/ProjectServices.h"
 
 #include "shared/PropertyMacros.h"
+
+#include <optional>
 
 class ProjectPaths;
 
@@ -43,7 +44,6 @@ public:
     ProjectLifecycle(const ProjectServices &services, ProjectPaths &paths, ProjectFrames &frames,
                      const ProjectNeighbours &neighbours, ThreadOperation &operation,
                      FrameFileOperations &files, ProjectLock &lock, QObject *parent = nullptr);
-    ~ProjectLifecycle() override;
 
     /// A project is open and all its frames are in the timeline.
     bool projectLoaded() const
@@ -116,27 +116,37 @@ signals:
 private:
     void resetProject(Reset mode);
     void setProjectLoaded(bool loaded);
-    void markSaved();
-    bool askBefore(int afterConfirmAction);
+    bool postponeFor(int afterConfirmAction);
+    void forgetAfterConfirm();
+    bool lockAllows(const QString &path);
 
-    int readInto(const QString &path, const ProjectReadResult &result);
+    int refuseMissingFile(const QString &path);
+    bool reportPathProblem(const QString &path);
     ProjectReadResult readInPool(const QString &path);
-    void failOpening();
+    int takeReadResult(const ProjectReadResult &result);
     void takeFrames(const QList<ProjectFrame> &frames);
-    void finishLoad();
+    void startAdding(const QList<ProjectFrame> &frames, const QString &action);
     void onFramesAdded(FrameFileOperations::End end);
+    void finishLoad();
     int convertLegacy();
-    void offerOrphans();
+    void lookForOrphans();
+    void offerOrphans(const QStringList &names);
+    void addOrphans(const QStringList &names);
 
+    bool isWritable(int saveMode);
     QString chooseSavePath(int saveMode);
-    bool mayWriteTo(const QString &path, const QString &chosen);
-    bool write(int saveMode);
-    bool followUp(int saveMode, const ProjectTree &oldTree);
-
-    void onFramesCopied(FrameFileOperations::End end, const QList<ProjectFrame> &frames, int failures);
+    bool createProject(const QString &path);
+    bool saveAs(const QString &path);
+    bool saveInPlace(int saveMode);
+    bool write(ProjectMapping::Rows rows);
+    void markSaved();
     void onProjectCopied(FrameFileOperations::End end, int failures);
-    void onCleanedUp(FrameFileOperations::End end);
-    void startCleanup(ProjectCleanup::Folders folders);
+    bool startCleanup(ProjectCleanup::Folders folders);
+    void onCleanedUp(FrameFileOperations::End end, int failures);
+
+    std::optional<QList<ProjectFrame>> readImportedFrames(const QString &path);
+    void onFramesCopied(FrameFileOperations::End end, const QList<ProjectFrame> &frames, int failures);
+    void warnOfFailures(int failures);
 
     ProjectServices m_services;
     ProjectPaths &m_paths;
@@ -147,15 +157,19 @@ private:
     ProjectLock &m_lock;
     ProjectMapping m_mapping;
     ProjectReport m_report;
-    OrphanImages m_orphans;
 
+    /// Of the project that an operation in the pool was started for; a later one is not concerned by its end.
+    int m_operationGeneration = 0;
+    int m_generation = 0;
     int m_autosaveDelay;
     bool m_performAutosave;
     bool m_projectLoaded = false;
     /// A file is being read: a second open is dropped.
     bool m_reading = false;
-    /// The frames coming in are imported ones, not those of the project's file.
+    /// The frames coming in are another project's, not those of this project's file.
     bool m_importing = false;
+    /// The running operation belongs to a save, which is complete when it ends.
+    bool m_endsSave = false;
     /// A change came after the file was last written.
     bool m_changedSinceWrite = false;
 };

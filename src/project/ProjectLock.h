@@ -52,8 +52,9 @@ public:
 
     /// `owner`, when given, is filled unless the project is free.
     State look(const QString &projPath, Owner *owner = nullptr) const;
-    /// Takes the project, whoever held it, and gives the former one back. False when the lock file cannot be
-    /// written, as in a read-only folder; nobody else can write there either.
+    /// Takes the project unless a running program of this host holds it, and gives the former one back. False
+    /// also when the lock file cannot be written, as in a read-only folder; nobody else can write there
+    /// either.
     bool take(const QString &projPath);
     void release();
     QString heldProject() const

@@ -27,5 +27,7 @@ struct ProjectServices
 
     /// Asks the background worker to bring pictures, given by full path, into the project and to make their
     /// thumbnails; `importTarget` is one of Zum::ImportTargets. May be empty: then nothing happens.
-    std::function<void(const QStringList &paths, int importTarget)> importImages;
+    std::function<void(const QStringList &paths, int importTarget)> importImages = {};
+    /// Forgets which job the background worker runs; may be empty.
+    std::function<void()> clearRobotJob = {};
 };
