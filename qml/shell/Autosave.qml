@@ -1,0 +1,18 @@
+import QtQuick
+
+// Saves now and then. With nothing to save it pauses itself until the next change.
+Timer {
+    id: autosaveTimer
+
+    interval: MainWindow.autosaveDelay * 60000
+    repeat: true
+    running: MainWindow.performAutosave && !MainWindow.pauseAutosave
+    onTriggered: {
+        if (!MainWindow.projectLoaded)
+            return;
+        if (WebcamGlobal.projectChanged)
+            WebcamGlobal.autosave();
+        else
+            MainWindow.pauseAutosave = true;
+    }
+}

@@ -1,0 +1,44 @@
+import QtQuick
+
+// What a view shows while it has no picture: without a project, the buttons that lead to one.
+Item {
+    id: firstSteps
+
+    required property var scene
+    property string text
+    property string openText
+
+    EmptyState {
+        anchors.fill: parent
+        visible: !MainWindow.projectLoaded
+        icon: "svgicons/film.svg"
+        title: qsTr("No project")
+        text: firstSteps.text
+
+        TextButton {
+            text: qsTr("Create New Project")
+            icon: "svgicons/new-project.svg"
+            onClicked: firstSteps.scene.createNewProject()
+        }
+
+        TextButton {
+            text: qsTr("Open Project")
+            icon: "svgicons/open.svg"
+            onClicked: firstSteps.scene.openProject()
+        }
+
+        TextButton {
+            text: qsTr("Recent Projects")
+            icon: "svgicons/recent.svg"
+            onClicked: firstSteps.scene.lastProjects()
+        }
+    }
+
+    EmptyState {
+        anchors.fill: parent
+        visible: MainWindow.projectLoaded
+        icon: "svgicons/image.svg"
+        title: MainWindow.projName
+        text: firstSteps.openText
+    }
+}

@@ -1,0 +1,236 @@
+import QtQuick
+import Zum 1.0
+
+// The scene of the main window: its parts and where they stand.
+SceneDevices {
+    id: appWindow
+
+    readonly property alias toggleRow: topLine.toggleRow
+    readonly property alias messagesModel: messages.messagesModel
+    readonly property alias robotMessgModel: messages.robotMessgModel
+    readonly property alias dialog: dialogLayer
+    readonly property alias popup: popupMessage
+    property int adding: 0
+
+    width: MainWindow.windowSize.width
+    height: MainWindow.windowSize.height
+    onWidthChanged: MainWindow.redrawing()
+    onHeightChanged: MainWindow.redrawing()
+    Component.onCompleted: {
+        loadCapturingPlugin();
+        progressBox();
+        panels.read();
+        keyHandler.forceActiveFocus();
+    }
+
+    function rescale() {
+        WebcamGlobal.calculateDisplayAndCoordSystemScale(screenArea.width, screenArea.height);
+    }
+
+    function repaint() {
+        repaintSteps.restart();
+    }
+
+    function toggleFullscreen() {
+        if (MainWindow.isFullscreen)
+            MainWindow.normal();
+        else
+            MainWindow.fullscreen();
+    }
+
+    function switchLayout(lmode) {
+        if (tabRules.docs)
+            return;
+        const marker = "_" + lmode;
+        const leaving = WebcamGlobal.mainTabsState.endsWith(marker);
+        WebcamGlobal.mainTabsState = tabRules.tab + (leaving ? "" : marker);
+        if (!leaving)
+            popupMessage.show(qsTr("Return to normal state") + (lmode === "compacted" ? " [F9]" : " [F6]"));
+    }
+
+    function stopPlayRamPreview() {
+        if (FramesModel.playing)
+            FramesModel.stop();
+        else
+            FramesModel.play();
+    }
+
+    function copyFrames() {
+        timelineBox.copyFrames();
+    }
+
+    function cutFrames() {
+        timelineBox.cutFrames();
+    }
+
+    function pasteFrames() {
+        timelineBox.pasteFrames();
+    }
+
+    function projectIsLoaded() {
+        addLastProject();
+        WebcamGlobal.projectChanged = false;
+        if (WebcamGlobal.currentActiveTab === Zum.CaptureTab)
+            WebcamGlobal.paused = false;
+        rescale();
+        if (WebcamGlobal.postProcessing === Zum.NonRealtimeProcessing)
+            WebcamGlobal.postProcessingChanged();
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: globalFonColor
+    }
+
+    TabRules {
+        id: tabRules
+
+        tabsState: WebcamGlobal.mainTabsState
+    }
+
+    PanelSettings {
+        id: panels
+    }
+
+    ScreenArea {
+        id: screenArea
+
+        anchors.left: mainControlBox.right
+        anchors.right: controlsPanesBox.left
+        anchors.top: topLine.bottom
+        anchors.bottom: timelineBox.top
+        visible: tabRules.screenShown
+        scene: appWindow
+        onWidthChanged: appWindow.rescale()
+        onHeightChanged: appWindow.rescale()
+    }
+
+    DocsView {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: topLine.bottom
+        anchors.bottom: parent.bottom
+        active: tabRules.docs
+    }
+
+    MainControlBox {
+        id: mainControlBox
+
+        z: 127
+        anchors.left: parent.left
+        anchors.top: topLine.bottom
+        anchors.bottom: timelineBox.top
+        visible: tabRules.mainControlsShown
+        width: visible ? implicitWidth : 0
+        scene: appWindow
+    }
+
+    ControlsPanesBox {
+        id: controlsPanesBox
+
+        anchors.right: parent.right
+        anchors.top: topLine.bottom
+        anchors.bottom: timelineBox.top
+        shown: tabRules.panesShown && !tabRules.video && WebcamGlobal.rightPanelPinned
+        scene: appWindow
+    }
+
+    TimelineBox {
+        id: timelineBox
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: statusBar.top
+        visible: tabRules.timelineShown
+        compactMode: tabRules.compacted
+        rangeControlVisible: tabRules.timing
+        height: visible ? wantedHeight : 0
+        scene: appWindow
+    }
+
+    StatusBar {
+        id: statusBar
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        visible: tabRules.statusBarShown
+        height: visible ? implicitHeight : 0
+    }
+
+    TopLine {
+        id: topLine
+
+        z: 620
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        height: tabRules.toggleRowShown ? implicitHeight : 1
+        rules: tabRules
+        scene: appWindow
+        messagesModel: messages.messagesModel
+    }
+
+    PopupMessage {
+        id: popupMessage
+
+        z: 900
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.top: topLine.bottom
+        anchors.topMargin: DefFontSizeNormal
+    }
+
+    Dialog {
+        id: dialogLayer
+
+        z: 1001
+        anchors.fill: parent
+    }
+
+    ToolTip {
+        z: 2100
+    }
+
+    MessageRouter {
+        id: messages
+    }
+
+    RootConnections {
+        scene: appWindow
+        keyHandler: keyHandler
+    }
+
+    Autosave {}
+
+    // A pixel that comes and goes, so that the window draws itself anew.
+    Rectangle {
+        width: appWindow.adding
+        height: 1
+        color: globalFonColor
+    }
+
+    Timer {
+        id: repaintSteps
+
+        property int left: 0
+
+        interval: 100
+        repeat: true
+        onRunningChanged: {
+            if (running)
+                left = 4;
+        }
+        onTriggered: {
+            appWindow.adding = left % 2 === 0 ? 1 : 0;
+            left -= 1;
+            if (left === 0)
+                stop();
+        }
+    }
+
+    KeyShortcuts {
+        id: keyHandler
+
+        scene: appWindow
+    }
+}

@@ -1,0 +1,79 @@
+import QtQuick
+import Zum 1.0
+
+// Which capturing device the scene holds: the kinds there are, choosing one and swapping it.
+SceneProject {
+    id: sceneDevices
+
+    readonly property CameraConnector emptyCamera: CameraConnector {
+        name: "Undefined"
+    }
+    readonly property CameraConnector webCamera: CameraConnector {
+        name: "web camera"
+        window: "NewWebCameraWindow.qml"
+        controls: "NewWebCameraControls.qml"
+    }
+    readonly property CameraConnector nikonCamera: CameraConnector {
+        name: "Nikon DSLR camera"
+        window: "NikonCameraWindow.qml"
+        controls: "NikonCameraControls.qml"
+    }
+    readonly property CameraConnector canonCamera: CameraConnector {
+        name: "Canon EOS camera"
+        window: "CanonCameraWindow.qml"
+        controls: "CanonCameraControls.qml"
+    }
+    readonly property CameraConnector sonyCamera: CameraConnector {
+        name: "Sony camera"
+        window: "SonyCameraWindow.qml"
+        controls: "SonyCameraControls.qml"
+    }
+    readonly property CameraConnector hdmiTethering: CameraConnector {
+        name: "Video capture"
+        window: "NewWebCameraWindow.qml"
+        controls: "NewWebCameraControls.qml"
+    }
+    readonly property alias deviceDummy: dummy
+    readonly property alias reloadRunning: reloadPause.running
+
+    function loadCapturingPlugin() {
+        if (WebcamGlobal.connected)
+            return;
+        const kind = Number(MainWindow.getSetting("currentCapturingDevice", Zum.CapturingDeviceCanonEOS));
+        MainWindow.currentCapturingDevice = kind;
+        if (kind === Zum.CapturingDeviceCanonEOS)
+            MainWindow.cameraQML = canonCamera;
+        else if (kind === Zum.CapturingDeviceHDMITethering)
+            MainWindow.cameraQML = hdmiTethering;
+        else
+            MainWindow.cameraQML = webCamera;
+    }
+
+    function deviceThreadRuns() {
+        const device = MainWindow.capturingDeviceObject;
+        return device ? device.threadIsRunning : false;
+    }
+
+    // Takes the device away, gives it time to let go of the hardware, and loads the chosen kind anew.
+    function reloadCapturingDevice() {
+        if (deviceThreadRuns() || WebcamGlobal.connected || reloadPause.running)
+            return;
+        MainWindow.cameraQML = emptyCamera;
+        MainWindow.capturingDeviceObject = dummy;
+        reloadPause.start();
+    }
+
+    DeviceDummy {
+        id: dummy
+    }
+
+    Timer {
+        id: reloadPause
+
+        interval: 1200
+        onTriggered: {
+            if (!WebcamGlobal.connected)
+                sceneDevices.loadCapturingPlugin();
+        }
+    }
+}

@@ -1,0 +1,25 @@
+#include "app/AppEnvironment.h"
+
+#include "app/SystemDialogs.h"
+#include "shared/LocaleChoice.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+AppEnvironment AppEnvironment::system(std::unique_ptr<Settings> settings)
+{
+    AppEnvironment environment;
+    environment.settings = std::move(settings);
+    environment.dialogs = std::make_unique<SystemDialogs>();
+    environment.desktop = morvane::makeDesktopServices();
+    environment.now = [] {
+        return QDateTime::currentDateTime();
+    };
+    environment.quit = [] {
+        QCoreApplication::quit();
+    };
+    environment.systemLocale = LocaleChoice::systemLocaleName();
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        environment.logicalDpi = qRound(screen->logicalDotsPerInchX());
+    return environment;
+}

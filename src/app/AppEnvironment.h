@@ -1,0 +1,28 @@
+#pragma once
+
+#include "shared/DesktopServices.h"
+#include "shared/Dialogs.h"
+#include "shared/Settings.h"
+
+#include <functional>
+#include <memory>
+#include <QDateTime>
+#include <QString>
+
+/// What the program needs of the world around it. A test hands in its own.
+struct AppEnvironment
+{
+    std::unique_ptr<Settings> settings;
+    std::unique_ptr<morvane::Dialogs> dialogs;
+    std::unique_ptr<morvane::DesktopServices> desktop;
+    std::function<QDateTime()> now;
+    /// Ends the event loop.
+    std::function<void()> quit;
+    /// Name of the system's locale.
+    QString systemLocale;
+    /// Logical horizontal density of the screen, in dots per inch.
+    int logicalDpi = 96;
+
+    /// The user's own desktop. Takes the settings that the start has already opened.
+    static AppEnvironment system(std::unique_ptr<Settings> settings);
+};

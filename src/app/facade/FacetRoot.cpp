@@ -1,0 +1,9 @@
+#include "app/facade/FacetRoot.h"
+
+#include "app/AppControllers.h"
+
+FacetRoot::FacetRoot(std::unique_ptr<AppControllers> controllers) : m_controllers(std::move(controllers))
+{
+}
+
+FacetRoot::~FacetRoot() = default;
