@@ -106,6 +106,7 @@ private slots:
     void sceneReadsEveryName();
     void keepsTheScaleSetAtStart();
     void keepsTheFlagSetAtStart();
+    void keepsTheFoldersOfTheProject();
     void channelsGoToLinearLight_data();
     void channelsGoToLinearLight();
     void everyChannelComesBackFromLinearLight();
@@ -187,6 +188,20 @@ void TestZum::keepsTheFlagSetAtStart()
     Zum::setHeadless(true);
     QVERIFY(Zum::headless());
     Zum::setHeadless(false);
+}
+
+void TestZum::keepsTheFoldersOfTheProject()
+{
+    QCOMPARE(Zum::projectFolders().projContntDirPath, QString());
+    Zum::setProjectFolders({QStringLiteral("a/"), QStringLiteral("b/"), QStringLiteral("c/"),
+                            QStringLiteral("d/"), QStringLiteral("e/")});
+    const Zum::ProjectFolders folders = Zum::projectFolders();
+    QCOMPARE(folders.projContntDirPath, QStringLiteral("a/"));
+    QCOMPARE(folders.capFullDirPath, QStringLiteral("b/"));
+    QCOMPARE(folders.refFullDirPath, QStringLiteral("c/"));
+    QCOMPARE(folders.backgroundDirPath, QStringLiteral("d/"));
+    QCOMPARE(folders.extractedDirPath, QStringLiteral("e/"));
+    Zum::setProjectFolders({});
 }
 
 void TestZum::channelsGoToLinearLight_data()
