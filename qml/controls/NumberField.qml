@@ -89,7 +89,6 @@ FocusScope {
             anchors.right: plus.left
             anchors.margins: 1
             height: parent.height
-            focus: true
             toolTip: field.toolTip
             label: field.label
             role: Accessible.SpinBox

@@ -12,7 +12,8 @@ Rectangle {
     height: Math.ceil(label.height) + DefFontSizeNormal
     anchors.horizontalCenter: parent ? parent.horizontalCenter : undefined
     anchors.bottom: parent ? parent.bottom : undefined
-    anchors.bottomMargin: DefFontSizeNormal_x6
+    anchors.bottomMargin: parent ? Math.max(0, Math.min(DefFontSizeNormal_x6, Math.floor((parent.height - height) / 2)))
+                                 : 0
     radius: Theme.corner
     color: Theme.button
     border.width: 1

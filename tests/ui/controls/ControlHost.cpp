@@ -209,7 +209,11 @@ AccessibleFacts accessibleFacts(QQuickItem *item)
     if (!face)
         return {};
     const QAccessible::State state = face->state();
-    return {face->text(QAccessible::Name), face->role(), state.disabled != 0, state.checked != 0,
+    return {face->text(QAccessible::Name),
+            face->text(QAccessible::Description),
+            face->role(),
+            !part->isEnabled(),
+            state.checked != 0,
             state.focusable != 0};
 }
 

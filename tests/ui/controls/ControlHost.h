@@ -50,7 +50,9 @@ private:
 struct AccessibleFacts
 {
     QString name;
+    QString description;
     int role = 0;
+    /// Of the item itself: the oldest toolkit that the program runs with does not pass it on.
     bool disabled = false;
     bool checked = false;
     bool focusable = false;
