@@ -9,7 +9,7 @@ int PathListModel::rowCount(const QModelIndex &parent) const
 
 QVariant PathListModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+    if (!isRow(index.row()))
         return {};
     const MPathPoint &node = m_nodes[index.row()];
     switch (role) {

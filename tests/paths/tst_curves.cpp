@@ -233,7 +233,7 @@ void TestCurves::newNodeComesWithItsSignals()
     QSignalSpy counted(&curves, &Curves::countChanged);
     curves.newPoint(MPathPoint::Move, 1, 2);
     QCOMPARE(order.join(' '),
-             "layoutAboutToBeChanged rowsAboutToBeInserted rowsInserted dataChanged "
+             "rowsAboutToBeInserted rowsInserted dataChanged layoutAboutToBeChanged "
              "layoutChanged pathChanged handlersChanged dotsChanged needSave "
              "pathHasChanged");
     QCOMPARE(counted.size(), 1);
