@@ -33,8 +33,8 @@ ShellWindow::ShellWindow(const Options &options)
 ShellWindow::~ShellWindow()
 {
     m_window.reset();
-    qInstallMessageHandler(s_before);
-    s_warnings = nullptr;
+    if (s_warnings == &m_warnings)
+        s_warnings = nullptr;
 }
 
 void ShellWindow::build(const Options &options)
@@ -44,8 +44,10 @@ void ShellWindow::build(const Options &options)
         return true;
     }();
     Q_UNUSED(registered)
+    // Each test function brings the test library's own handler back, so ours goes in front of it each time.
+    if (const QtMessageHandler before = qInstallMessageHandler(keepSceneWarnings); before != keepSceneWarnings)
+        s_before = before;
     s_warnings = &m_warnings;
-    s_before = qInstallMessageHandler(keepSceneWarnings);
 
     AppEnvironment environment;
     const QString path =
