@@ -6,6 +6,6 @@ Rectangle {
     z: 10
     color: "transparent"
     radius: Theme.corner
-    border.width: 2
+    border.width: lineWidth
     border.color: Theme.focusLine
 }

@@ -12,7 +12,7 @@ TextButton {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        height: 2
+        height: lineWidth
         color: Theme.active
         visible: tab.toggled
     }

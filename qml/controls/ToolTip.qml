@@ -8,7 +8,7 @@ Rectangle {
     readonly property Item target: ToolTips.target
     readonly property bool wanted: target !== null && text !== "" && target.Window.window === tip.Window.window
                                    && WebcamGlobal.showToolTips
-    readonly property string text: target ? target.toolTip : ""
+    readonly property string text: target ? target["toolTip"] : ""
 
     z: 3000
     width: Math.ceil(label.width) + 2 * Theme.spacing

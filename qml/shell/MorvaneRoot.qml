@@ -16,7 +16,9 @@ SceneDevices {
     height: MainWindow.windowSize.height
     onWidthChanged: MainWindow.redrawing()
     onHeightChanged: MainWindow.redrawing()
+    Keys.forwardTo: [keyHandler]
     Component.onCompleted: {
+        FocusHome.home = keyHandler;
         loadCapturingPlugin();
         progressBox();
         panels.read();
@@ -173,11 +175,6 @@ SceneDevices {
 
     PopupMessage {
         id: popupMessage
-
-        z: 900
-        anchors.horizontalCenter: parent.horizontalCenter
-        anchors.top: topLine.bottom
-        anchors.topMargin: DefFontSizeNormal
     }
 
     Dialog {

@@ -43,7 +43,8 @@ Item {
                 wrapMode: Text.Wrap
                 elide: Text.ElideNone
                 text: docsPage.page.title ?? ""
-                font.pixelSize: DefFontSizeNormal_x2
+                // A narrow page has room for a word of fifteen letters.
+                font.pixelSize: Math.max(DefFontSizeSmaler, Math.min(DefFontSizeNormal_x2, Math.floor(width / 9.6)))
                 Accessible.role: Accessible.Heading
             }
 

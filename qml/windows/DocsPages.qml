@@ -38,18 +38,18 @@ Item {
         anchors.bottom: parent.bottom
         visible: docsPages.hasPages
         page: docsPages.hasPages ? docsPages.view.pages[docsPages.view.currentPage] : ({ })
-        rightRoom: buttons.width + 2 * DefFontSizeMicro
+        rightRoom: buttons.width + scrollBarW + 2 * DefFontSizeMicro
     }
 
     EmptyState {
         anchors.fill: parent
         visible: !docsPages.hasPages
         icon: "svgicons/docs.svg"
-        title: qsTr("No documents")
-        text: qsTr("The file with the documents was not found or could not be read.")
+        title: qsTranslate("MorvaneRoot", "No documents")
+        text: qsTranslate("MorvaneRoot", "The file with the documents was not found or could not be read.")
 
         TextButton {
-            text: qsTr("Read again")
+            text: qsTranslate("MorvaneRoot", "Read again")
             icon: "svgicons/reload.svg"
             onClicked: docsPages.view.reload()
         }
@@ -69,14 +69,15 @@ Item {
             objectName: "expandButton"
             icon: "svgicons/list.svg"
             toggled: docsPages.view.titlesShown
-            toolTip: (docsPages.view.titlesShown ? qsTr("Hide the titles") : qsTr("Show the titles")) + " [F6]"
+            toolTip: (docsPages.view.titlesShown ? qsTranslate("MorvaneRoot", "Hide the titles")
+                                                  : qsTranslate("MorvaneRoot", "Show the titles")) + " [F6]"
             onClicked: docsPages.view.titlesShown = !docsPages.view.titlesShown
         }
 
         IconButton {
             objectName: "reloadButton"
             icon: "svgicons/reload.svg"
-            toolTip: qsTr("Read the documents again") + " [F5]"
+            toolTip: qsTranslate("MorvaneRoot", "Read the documents again") + " [F5]"
             onClicked: docsPages.view.reload()
         }
     }

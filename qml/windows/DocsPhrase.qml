@@ -46,6 +46,7 @@ Column {
                 width: docsPhrase.firstColumn - Theme.padding
                 wrapMode: Text.Wrap
                 elide: Text.ElideNone
+                lineHeight: 1.2
                 text: line.modelData.substring(0, line.mark)
                 color: "#ffffff"
             }
@@ -74,13 +75,46 @@ Column {
         dim: true
     }
 
-    TextButton {
+    // Addresses are long: this one is wrapped where a button's text would be cut.
+    ButtonBase {
+        id: link
+
         objectName: "docsLink"
-        width: Math.min(implicitWidth, docsPhrase.width)
-        visible: text !== ""
-        text: docsPhrase.phrase.weblink
-        icon: "svgicons/link.svg"
-        toolTip: qsTr("Open in the web browser")
+        width: Math.min(docsPhrase.width, picture.width + Math.ceil(measure.advanceWidth) + 1 + 3 * Theme.padding)
+        height: Math.max(Theme.controlHeight, address.height + Theme.padding)
+        visible: label !== ""
+        label: docsPhrase.phrase.weblink
+        toolTip: qsTranslate("MorvaneRoot", "Open in the web browser")
         onClicked: MainWindow.openUrlExternally(docsPhrase.phrase.weblink)
+
+        TextMetrics {
+            id: measure
+
+            font: address.font
+            text: link.label
+        }
+
+        Icon {
+            id: picture
+
+            x: Theme.padding
+            anchors.verticalCenter: parent.verticalCenter
+            icon: "svgicons/link.svg"
+            size: Theme.smallIconSize
+        }
+
+        TextLabel {
+            id: address
+
+            anchors.left: picture.right
+            anchors.leftMargin: Theme.padding
+            anchors.verticalCenter: parent.verticalCenter
+            width: link.width - x - Theme.padding
+            wrapMode: Text.WrapAnywhere
+            elide: Text.ElideNone
+            text: link.label
+            color: LinkColor
+            Accessible.ignored: true
+        }
     }
 }

@@ -11,7 +11,7 @@ Rectangle {
 
     color: GlobalDarkerColor
     Accessible.role: Accessible.List
-    Accessible.name: qsTr("Titles")
+    Accessible.name: qsTranslate("MorvaneRoot", "Titles")
 
     ListView {
         id: list
@@ -58,6 +58,8 @@ Rectangle {
                 wrapMode: Text.Wrap
                 elide: Text.ElideNone
                 text: entry.modelData.title
+                // A narrow list has room for a word of fifteen letters.
+                font.pixelSize: Math.max(DefFontSizeNano, Math.min(DefFontSizeNormal, Math.floor(width / 9.6)))
                 color: entry.toggled ? Theme.active : Theme.text
                 Accessible.ignored: true
             }

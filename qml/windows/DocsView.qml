@@ -23,7 +23,8 @@ Item {
     }
 
     function readPages() {
-        pages = MainWindow.docs;
+        // A copy: the list itself would be fetched anew at every look.
+        pages = MainWindow.docs.slice();
         currentPage = Math.max(0, Math.min(currentPage, pages.length - 1));
     }
 

@@ -139,8 +139,11 @@ void DocsReader::takeText(Texts &texts)
         texts.insert(name, cleaned(content));
 }
 
-QString DocsReader::text(const Texts &texts, const QString &name)
+QString DocsReader::text(const Texts &texts, const QString &name) const
 {
+    // What a damaged file did not get to say is no mistake of its own.
+    if (m_xml.hasError())
+        return QString();
     const auto found = texts.constFind(name);
     if (found == texts.cend()) {
         qCDebug(docsLog, "Doc object is null");

@@ -27,7 +27,7 @@ private:
     QVariantMap phrase();
     QVariantList phrases();
     void takeText(Texts &texts);
-    static QString text(const Texts &texts, const QString &name);
+    QString text(const Texts &texts, const QString &name) const;
     QString picture(const QString &name) const;
 
     QXmlStreamReader m_xml;

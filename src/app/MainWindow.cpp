@@ -82,7 +82,7 @@ void MainWindow::publishContext()
     context->setContextProperty(QStringLiteral("WebcamGlobal"), &c.global);
     context->setContextProperty(QStringLiteral("CurvesModel"), &c.curves);
     context->setContextProperties(morvane::contextValues(
-        {font, scale, startup::timelineScale(c.settings()), EventSounds::available()}));
+        {font, scale, startup::timelineScale(c.settings()), ::EventSounds::available()}));
 }
 
 void MainWindow::connectControllers()

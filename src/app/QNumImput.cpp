@@ -88,8 +88,7 @@ void QNumImput::give(qreal newValue)
 qreal QNumImput::rounded(qreal value) const
 {
     const qreal factor = std::pow(10.0, std::clamp(decimals(), 0, mostDecimals));
-    // Adding zero turns a negative zero into a plain one.
-    return std::round(value * factor) / factor + 0.0;
+    return std::round(value * factor) / factor;
 }
 
 void QNumImput::keyPressEvent(QKeyEvent *event)

@@ -84,7 +84,7 @@ double CurveFitter::boundedError(double error)
 
 CurveFitter::Report CurveFitter::fitWithOffset(QList<MPathPoint> *result, const QList<QPointF> &points,
                                                double error, double angleDegrees, double width,
-                                               std::stop_token stop) const
+                                               const std::stop_token &stop) const
 {
     const double angle = qDegreesToRadians(angleDegrees);
     const QPointF offset(std::sin(angle) * width * 0.5, std::cos(angle) * width * 0.5);
@@ -96,7 +96,7 @@ CurveFitter::Report CurveFitter::fitWithOffset(QList<MPathPoint> *result, const 
 }
 
 CurveFitter::Report CurveFitter::fit(QList<MPathPoint> *result, const QList<QPointF> &points, double error,
-                                     std::stop_token stop) const
+                                     const std::stop_token &stop) const
 {
     Report report;
     const qsizetype last = points.size() - 1;

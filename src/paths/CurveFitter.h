@@ -39,10 +39,10 @@ public:
     /// Moves the points up and to the left by half of `width` along the given direction, 0 degrees being
     /// straight up, and fits them within the bounded error.
     Report fitWithOffset(QList<MPathPoint> *result, const QList<QPointF> &points, double error,
-                         double angleDegrees, double width, std::stop_token stop = {}) const;
+                         double angleDegrees, double width, const std::stop_token &stop = {}) const;
 
     /// Appends the segments to the result as cubic nodes without GUID, with a move to the first point ahead
     /// of them if the result was empty. Fewer than two points give nothing.
     Report fit(QList<MPathPoint> *result, const QList<QPointF> &points, double error,
-               std::stop_token stop = {}) const;
+               const std::stop_token &stop = {}) const;
 };

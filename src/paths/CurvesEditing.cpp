@@ -179,7 +179,7 @@ void Curves::updatePos(int ind, qreal x, qreal y, int role)
 
 bool Curves::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid) || (role != Ingroup && refuseEdit()))
+    if (!isRow(index.row()) || (role != Ingroup && refuseEdit()))
         return false;
     MPathPoint probe;
     if (value.typeId() == QMetaType::QPointF) {

@@ -42,7 +42,7 @@ QList<int> findLineStarts(const QList<MPathPoint> &nodes);
 SubpathTable findSubpaths(const QList<MPathPoint> &nodes);
 
 /// The length along the path, from its start, of the point of the path nearest to the position; 0 for a path
-/// without length. Found to half a canvas unit.
+/// without length. Found to half a canvas unit. QPainterPath::percentAtLength() leads back to the point.
 double nearestLength(const QPainterPath &path, QPointF position);
 
 } // namespace morvane

@@ -2,14 +2,6 @@
 
 #include <QMetaEnum>
 
-namespace {
-
-/// Every change of rows is framed by layout signals, as the scene's scripts expect. The hint says that no
-/// row was sorted: without it a list view would throw away and rebuild every delegate for each new node.
-constexpr QAbstractItemModel::LayoutChangeHint layoutHint = QAbstractItemModel::HorizontalSortHint;
-
-} // namespace
-
 int PathListModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : int(m_nodes.size());
@@ -17,7 +9,7 @@ int PathListModel::rowCount(const QModelIndex &parent) const
 
 QVariant PathListModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+    if (!isRow(index.row()))
         return {};
     const MPathPoint &node = m_nodes[index.row()];
     switch (role) {
@@ -94,23 +86,23 @@ const QList<int> &PathListModel::lineStarts() const
 
 void PathListModel::insertNode(int row, const MPathPoint &node)
 {
-    emit layoutAboutToBeChanged({}, layoutHint);
     beginInsertRows({}, row, row);
     m_nodes.insert(row, node);
     m_lineStartsKnown = false;
     endInsertRows();
     announceRows(row, row);
-    emit layoutChanged({}, layoutHint);
+    // Scripts of the scene wait for layoutChanged. A layout must not change around an insertion, so the pair
+    // comes behind it; and the hint keeps list views from building every delegate anew for each new node.
+    emit layoutAboutToBeChanged({}, HorizontalSortHint);
+    emit layoutChanged({}, HorizontalSortHint);
 }
 
 void PathListModel::removeNode(int row)
 {
-    emit layoutAboutToBeChanged({}, layoutHint);
     beginRemoveRows({}, row, row);
     m_nodes.removeAt(row);
     m_lineStartsKnown = false;
     endRemoveRows();
-    emit layoutChanged({}, layoutHint);
 }
 
 void PathListModel::replaceNode(int row, const MPathPoint &node)

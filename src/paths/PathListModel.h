@@ -59,8 +59,7 @@ protected:
     {
         return m_nextGuid++;
     }
-    /// Each call emits layoutAboutToBeChanged, the signals of the row, dataChanged for an insertion, and
-    /// layoutChanged. The row must be in range.
+    /// The row must be in range. An insertion also emits dataChanged and layoutChanged.
     void insertNode(int row, const MPathPoint &node);
     void removeNode(int row);
     /// Replaces without a signal; the caller announces the changed rows together.

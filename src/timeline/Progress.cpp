@@ -102,8 +102,21 @@ void Progress::goUpdate()
 
 void Progress::calculateTimes()
 {
-    // The parts are computed where they are read.
-    emit timesChanged();
+    constexpr int secondMs = 1000;
+    constexpr int minuteMs = 60 * secondMs;
+    constexpr int hourMs = 60 * minuteMs;
+    setTime(m_mSeconds, m_milliseconds % secondMs, &Progress::mSecondsChanged);
+    setTime(m_seconds, m_milliseconds % minuteMs / secondMs, &Progress::secondsChanged);
+    setTime(m_minutes, m_milliseconds % hourMs / minuteMs, &Progress::minutesChanged);
+    setTime(m_hours, m_milliseconds / hourMs, &Progress::hoursChanged);
+}
+
+void Progress::setTime(int &part, int value, Signal changed)
+{
+    if (value == part)
+        return;
+    part = value;
+    emit(this->*changed)();
 }
 
 void Progress::discretize(int type)

@@ -18,10 +18,10 @@ class Progress : public QQuickItem
     Q_PROPERTY(qreal rangeStartX READ rangeStartX WRITE setRangeStartX NOTIFY rangeStartXChanged)
     Q_PROPERTY(qreal rangeEndX READ rangeEndX WRITE setRangeEndX NOTIFY rangeEndXChanged)
     Q_PROPERTY(int milliseconds READ milliseconds WRITE setMilliseconds NOTIFY millisecondsChanged)
-    Q_PROPERTY(int mSeconds READ mSeconds NOTIFY timesChanged)
-    Q_PROPERTY(int seconds READ seconds NOTIFY timesChanged)
-    Q_PROPERTY(int minutes READ minutes NOTIFY timesChanged)
-    Q_PROPERTY(int hours READ hours NOTIFY timesChanged)
+    Q_PROPERTY(int mSeconds READ mSeconds NOTIFY mSecondsChanged)
+    Q_PROPERTY(int seconds READ seconds NOTIFY secondsChanged)
+    Q_PROPERTY(int minutes READ minutes NOTIFY minutesChanged)
+    Q_PROPERTY(int hours READ hours NOTIFY hoursChanged)
     Q_PROPERTY(int currentPositionName READ currentPositionName NOTIFY currentPositionNameChanged)
 
     /// Values snap to whole frames.
@@ -86,19 +86,19 @@ public:
     void setMilliseconds(int milliseconds);
     int mSeconds() const
     {
-        return m_milliseconds % 1000;
+        return m_mSeconds;
     }
     int seconds() const
     {
-        return m_milliseconds / 1000 % 60;
+        return m_seconds;
     }
     int minutes() const
     {
-        return m_milliseconds / 60000 % 60;
+        return m_minutes;
     }
     int hours() const
     {
-        return m_milliseconds / 3600000;
+        return m_hours;
     }
     /// Where the last write of `current` ended up, a Zum::RangePositions value.
     int currentPositionName() const
@@ -122,7 +122,10 @@ signals:
     void rangeStartXChanged();
     void rangeEndXChanged();
     void millisecondsChanged();
-    void timesChanged();
+    void mSecondsChanged();
+    void secondsChanged();
+    void minutesChanged();
+    void hoursChanged();
     void currentPositionNameChanged();
 
     void reachedRangeStart();
@@ -145,11 +148,16 @@ private:
     qreal keepInRange(qreal value);
     qreal keepInList(qreal value);
     void setPositionName(int name);
+    void setTime(int &part, int value, Signal changed);
 
     Handler m_current;
     Handler m_rangeStart;
     Handler m_rangeEnd;
     qreal m_total = 0;
     int m_milliseconds = 0;
+    int m_mSeconds = 0;
+    int m_seconds = 0;
+    int m_minutes = 0;
+    int m_hours = 0;
     int m_positionName = Zum::UndefinedPosition;
 };

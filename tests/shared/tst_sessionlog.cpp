@@ -128,9 +128,12 @@ void TestSessionLog::existingFileIsReplaced()
     QVERIFY(old.open(QIODevice::WriteOnly));
     old.write("a session of long ago\n");
     old.close();
+    QVERIFY(old.open(QIODevice::ReadOnly));
     SessionLog log;
     QVERIFY(log.open(path()));
     QCOMPARE(lines(), QStringList{QString()});
+    // Deleted, not emptied: who still has it open keeps its text.
+    QCOMPARE(old.readAll(), QByteArray("a session of long ago\n"));
 }
 
 void TestSessionLog::otherLanguagesSurvive()

@@ -53,6 +53,7 @@ void TestTimeText::secondsToHHMMSS_data()
     QTest::addColumn<int>("seconds");
     QTest::addColumn<QString>("text");
     QTest::newRow("an hour, a minute, a second") << 3661 << "01.01.01";
+    QTest::newRow("the last second of a day") << 86399 << "23.59.59";
     QTest::newRow("wraps after a day") << 86400 + 61 << "00.01.01";
     QTest::newRow("as many as there can be") << std::numeric_limits<int>::max() << "03.14.07";
 }

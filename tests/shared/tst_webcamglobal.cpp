@@ -1,6 +1,7 @@
 #include "shared/WebcamGlobal.h"
 
 #include <cmath>
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -14,6 +15,7 @@ class TestWebcamGlobal : public QObject
 private slots:
     void scalesWaitOneSecondForANewerRequest();
     void tenRequestsComputeOnceWithTheLastPair();
+    void newerRequestsDoNotPutTheComputationOff();
     void displayScale_data();
     void displayScale();
     void withoutDeviceAndPictureBothScalesAreOne();
@@ -92,6 +94,21 @@ void TestWebcamGlobal::tenRequestsComputeOnceWithTheLastPair()
     for (int turn = 0; turn < 20; ++turn)
         QCoreApplication::processEvents();
     QCOMPARE(computed, QList<qreal>{2.0});
+}
+
+void TestWebcamGlobal::newerRequestsDoNotPutTheComputationOff()
+{
+    WebcamGlobal global;
+    global.setScaleDelay(20ms);
+    global.setWidth(100);
+    global.setHeight(100);
+    QElapsedTimer watch;
+    watch.start();
+    while (global.displayScale() == 1.0 && watch.elapsed() < 500) {
+        global.calculateDisplayAndCoordSystemScale(50, 50);
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(global.displayScale(), 0.5);
 }
 
 void TestWebcamGlobal::displayScale_data()

@@ -1,7 +1,11 @@
 #include "shared/Zum.h"
 
-#include <array>
+#include <cmath>
+#include <memory>
+#include <QJSValue>
 #include <QMetaEnum>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -98,8 +102,11 @@ private slots:
     void enumerationHasItsNamesAndNumbers();
     void hasNoOtherEnumeration();
     void hasOneSignalAndNoSlot();
+    void sceneReadsEveryName_data();
+    void sceneReadsEveryName();
     void keepsTheScaleSetAtStart();
     void keepsTheFlagSetAtStart();
+    void keepsTheFoldersOfTheProject();
     void channelsGoToLinearLight_data();
     void channelsGoToLinearLight();
     void everyChannelComesBackFromLinearLight();
@@ -131,16 +138,40 @@ void TestZum::enumerationHasItsNamesAndNumbers()
 
 void TestZum::hasNoOtherEnumeration()
 {
-    QCOMPARE(Zum::staticMetaObject.enumeratorCount() - Zum::staticMetaObject.enumeratorOffset(),
+    QCOMPARE(Zum::staticMetaObject.enumeratorCount() - QObject::staticMetaObject.enumeratorCount(),
              static_cast<int>(vocabulary.size()));
 }
 
 void TestZum::hasOneSignalAndNoSlot()
 {
     const QMetaObject &meta = Zum::staticMetaObject;
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
+    QCOMPARE(meta.methodCount() - QObject::staticMetaObject.methodCount(), 1);
     QCOMPARE(meta.method(meta.methodOffset()).methodSignature(), QByteArray("bookmarksGroupNameChanged()"));
     QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Signal);
+}
+
+void TestZum::sceneReadsEveryName_data()
+{
+    enumerationHasItsNamesAndNumbers_data();
+}
+
+void TestZum::sceneReadsEveryName()
+{
+    QFETCH(QList<QByteArray>, keys);
+    qmlRegisterType<Zum>("Zum", 1, 0, "Zum");
+    QByteArray list;
+    for (const QByteArray &key : keys)
+        list += "Zum." + key + ", ";
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData("import QtQml\nimport Zum 1.0\nQtObject { property var values: [" + list + "] }",
+                      QUrl());
+    const std::unique_ptr<QObject> object(component.create());
+    QVERIFY2(object, qPrintable(component.errorString()));
+    const QVariantList values = object->property("values").value<QJSValue>().toVariant().toList();
+    QCOMPARE(values.size(), keys.size());
+    for (int i = 0; i < values.size(); ++i)
+        QCOMPARE(values.at(i), QVariant(i));
 }
 
 void TestZum::keepsTheScaleSetAtStart()
@@ -157,6 +188,20 @@ void TestZum::keepsTheFlagSetAtStart()
     Zum::setHeadless(true);
     QVERIFY(Zum::headless());
     Zum::setHeadless(false);
+}
+
+void TestZum::keepsTheFoldersOfTheProject()
+{
+    QCOMPARE(Zum::projectFolders().projContntDirPath, QString());
+    Zum::setProjectFolders({QStringLiteral("a/"), QStringLiteral("b/"), QStringLiteral("c/"),
+                            QStringLiteral("d/"), QStringLiteral("e/")});
+    const Zum::ProjectFolders folders = Zum::projectFolders();
+    QCOMPARE(folders.projContntDirPath, QStringLiteral("a/"));
+    QCOMPARE(folders.capFullDirPath, QStringLiteral("b/"));
+    QCOMPARE(folders.refFullDirPath, QStringLiteral("c/"));
+    QCOMPARE(folders.backgroundDirPath, QStringLiteral("d/"));
+    QCOMPARE(folders.extractedDirPath, QStringLiteral("e/"));
+    Zum::setProjectFolders({});
 }
 
 void TestZum::channelsGoToLinearLight_data()
@@ -205,6 +250,6 @@ void TestZum::luminance()
     QTEST(Zum::luminance(red, green, blue), "luminance");
 }
 
-QTEST_APPLESS_MAIN(TestZum)
+QTEST_GUILESS_MAIN(TestZum)
 
 #include "tst_zum.moc"

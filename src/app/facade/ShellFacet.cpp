@@ -85,3 +85,8 @@ void ShellFacet::setTitle()
                   controllers().lifecycle.allowQuietExit() ? QString() : QStringLiteral("*"));
     setTitle(title);
 }
+
+void ShellFacet::loadDocs()
+{
+    controllers().docs.loadDocs();
+}

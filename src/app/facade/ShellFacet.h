@@ -13,7 +13,7 @@ class ShellFacet : public ProjectFacet
     Q_PROPERTY(bool closing READ closing CONSTANT)
     Q_PROPERTY(int closeAttempts READ closeAttempts CONSTANT)
     Q_PROPERTY(QVariantMap appInfo READ appInfo CONSTANT)
-    Q_PROPERTY(QVariantList docs READ docs CONSTANT)
+    Q_PROPERTY(QVariantList docs READ docs NOTIFY docsChanged)
 
 public:
     explicit ShellFacet(std::unique_ptr<AppControllers> controllers);
@@ -37,10 +37,13 @@ public slots:
     void quitApplication();
     /// Writes the title anew from what the program knows.
     void setTitle();
+    /// Reads the user's documentation anew.
+    void loadDocs();
 
 signals:
     void qmlDialogUrlChanged();
     void qmlDialogVisibleChanged();
+    void docsChanged();
     void aboutToCloseApp();
 
 private:

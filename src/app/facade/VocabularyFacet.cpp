@@ -1,5 +1,7 @@
 #include "app/facade/VocabularyFacet.h"
 
+#include "app/AppControllers.h"
+
 #include "shared/NumberText.h"
 #include "shared/StringText.h"
 

@@ -1,5 +1,7 @@
 #include "app/facade/WindowFacet.h"
 
+#include "app/AppControllers.h"
+
 #include <QGuiApplication>
 #include <QQuickItem>
 #include <QResizeEvent>

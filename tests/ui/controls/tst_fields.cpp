@@ -176,7 +176,7 @@ void TestFields::heldButtonGoesOn()
     QTRY_VERIFY(field->property("value").toInt() > 14);
     const int reached = field->property("value").toInt();
     QTest::mouseRelease(&host.window(), Qt::LeftButton, Qt::NoModifier, plus);
-    QVERIFY2(field->property("value").toInt() <= reached + 1, "the release is no click of its own");
+    QCOMPARE(field->property("value").toInt(), reached);
 }
 
 void TestFields::arrowKeysStep()
