@@ -88,6 +88,10 @@
         <translation>Изображения</translation>
     </message>
     <message>
+        <source>Morvane project files</source>
+        <translation>Проекты Morvane</translation>
+    </message>
+    <message>
         <source>No default image editor found</source>
         <translation>Не найден редактор изображений по умолчанию</translation>
     </message>
@@ -141,15 +145,13 @@
     </message>
     <message>
         <source>camera</source>
+        <extracomment>Looked for in the names that devices give themselves, which are English: keep the word as it is</extracomment>
         <translation>camera</translation>
     </message>
     <message>
         <source>device</source>
+        <extracomment>Looked for in the names that devices give themselves, which are English: keep the word as it is</extracomment>
         <translation>device</translation>
-    </message>
-    <message>
-        <source>project files</source>
-        <translation>project files</translation>
     </message>
 </context>
 <context>
