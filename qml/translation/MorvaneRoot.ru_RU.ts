@@ -139,6 +139,14 @@
         <translation>Файл с документами не найден, или его нельзя прочитать.</translation>
     </message>
     <message>
+        <source>This version cannot import pictures yet.</source>
+        <translation>Эта версия пока не умеет импортировать изображения.</translation>
+    </message>
+    <message>
+        <source>This version has no preview window yet.</source>
+        <translation>Окна просмотра в этой версии пока нет.</translation>
+    </message>
+    <message>
         <source>Titles</source>
         <translation>Заголовки</translation>
     </message>
