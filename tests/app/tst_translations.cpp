@@ -270,9 +270,9 @@ void TestTranslations::noTextIsLeftFromFormerVersions()
 void TestTranslations::translationsKeepPlaceholdersShortcutsAndEnds()
 {
     const QList<QPair<QString, QString>> kept{
-        {"placeholders", "%L?\\d+|%n"},
-        {"shortcuts", "&(?=\\w)|\\[[^\\]]*\\]|\\b(Esc|Ctrl|Shift|Alt|F\\d+)\\b"},
-        {"blanks at the start", "^\\s*"},
+        {"placeholder", "%L?\\d+|%n"},
+        {"shortcut", "&(?=\\w)|\\[[^\\]]*\\]|\\b(Esc|Ctrl|Shift|Alt|F\\d+)\\b"},
+        {"blank at the start", "^\\s*"},
         {"end", "(\\.\\.\\.|[.:;?!…])?\\s*$"}};
     const QStringList lost = complaints([&](const QString &, const Text &text) -> QString {
         for (const QString &form : text.forms) {
