@@ -8,6 +8,10 @@
         <translation>Удаление</translation>
     </message>
     <message>
+        <source>Dismiss</source>
+        <translation>Снятие выделения</translation>
+    </message>
+    <message>
         <source>Duplicate and move</source>
         <translation>Дублирование и перемещение</translation>
     </message>
@@ -18,6 +22,18 @@
     <message>
         <source>Move</source>
         <translation>Перемещение</translation>
+    </message>
+    <message>
+        <source>Preparing playback</source>
+        <translation>Подготовка воспроизведения</translation>
+    </message>
+    <message>
+        <source>Search for staticness</source>
+        <translation>Поиск стоп-кадров</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Выделение</translation>
     </message>
 </context>
 </TS>
