@@ -291,7 +291,7 @@
     </message>
     <message>
         <source>Middle mouse button + drag</source>
-        <translation>Тянуть средней кнопкой</translation>
+        <translation>Средняя кнопка</translation>
     </message>
     <message>
         <source>Shift + Left click</source>
@@ -319,7 +319,7 @@
     </message>
     <message>
         <source>select up to here</source>
-        <translation>выделить до этого места</translation>
+        <translation>выделить ряд</translation>
     </message>
 </context>
 <context>

@@ -77,7 +77,7 @@
     </message>
     <message>
         <source>Interval</source>
-        <translation>Каждые</translation>
+        <translation>Интервал</translation>
     </message>
     <message>
         <source>Language of the interface</source>
