@@ -14,7 +14,7 @@ Rectangle {
                                             && (FramesModel.selectedCount > 0 || FramesModel.pointedGuid >= 0)
     readonly property int wantedHeight: compactMode
         ? 140 * 0.8
-        : Math.min(MainWindow.timelineH * (WebcamGlobal.timelineCompact ? 0.78 : 1), parent.height / 2)
+        : Math.min(MainWindow.timelineH * (WebcamGlobal.timelineCompact ? 0.78 : 1), parent.height * 0.36)
 
     function copyFrames() {
         arm(true);
