@@ -2,8 +2,8 @@
 
 #include <QMetaMethod>
 #include <QObject>
-#include <utility>
 #include <QStringList>
+#include <utility>
 
 /// Keeps the names of the commands that an object's signals give, in order. Signals that only tell of a
 /// changed property stay out.
