@@ -13,6 +13,7 @@ private slots:
     void logsAFrameThatIsSelectedTwice();
     void switchesARangeEitherWay();
     void deselectsWhatWasSelectedWhenSelectingAll();
+    void forgetsSelectedFramesThatWentWhenSelectingAll();
     void knowsWhenAllAreSelected();
     void doesNothingUnderTheEntryRule_data();
     void doesNothingUnderTheEntryRule();
@@ -46,6 +47,7 @@ private slots:
     void marksMissingFiles();
     void staysSilentWhereNothingChanged();
     void scansAgainWhatAShotChangedMeanwhile();
+    void scansAgainWhenRowsGoMeanwhile();
     void keepsTheModelForALoneCheckOfMissingFiles();
     void dropsAPendingAction();
     void dropsAPendingDuplication();
@@ -116,6 +118,17 @@ void tst_FrameBatches::deselectsWhatWasSelectedWhenSelectingAll()
     QVERIFY(!model.frameAt(1).ingroup && !model.frameAt(3).ingroup);
     QVERIFY(model.frameAt(0).ingroup);
     QVERIFY(!model.allSelected());
+}
+
+void tst_FrameBatches::forgetsSelectedFramesThatWentWhenSelectingAll()
+{
+    TestModel model(5);
+    model.switchSelectionOnSingleFrame(1);
+    model.removeSingleFrame(1);
+    QCOMPARE(model.selectedCount(), 1);
+    model.selectAll();
+    QCOMPARE(model.selectedCount(), 4);
+    QVERIFY(model.allSelected());
 }
 
 void tst_FrameBatches::knowsWhenAllAreSelected()
@@ -574,6 +587,23 @@ void tst_FrameBatches::scansAgainWhatAShotChangedMeanwhile()
     QVERIFY(model.settle());
     QCOMPARE(model.framesCount(), 9 + 1);
     QCOMPARE(model.holds().mid(7), QList<int>({0, 1, 2}));
+}
+
+void tst_FrameBatches::scansAgainWhenRowsGoMeanwhile()
+{
+    TestModel model(0);
+    for (const char *name : {"a", "b", "b", "c"})
+        model.appendFrame({{"capFull", name}, {"static", 1}});
+    bool cleared = false;
+    connect(&model, &FramesModel::dataChanged, &model, [&] {
+        if (model.threading() && !std::exchange(cleared, true))
+            model.removeSingleFrame(0, false);
+    });
+    model.searchStaticness(0, 0);
+    QVERIFY(model.settle());
+    QVERIFY(cleared);
+    QCOMPARE(model.holds(), QList<int>({0, 2, -1}));
+    model.clear();
 }
 
 void tst_FrameBatches::keepsTheModelForALoneCheckOfMissingFiles()
