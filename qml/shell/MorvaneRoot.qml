@@ -16,7 +16,9 @@ SceneDevices {
     height: MainWindow.windowSize.height
     onWidthChanged: MainWindow.redrawing()
     onHeightChanged: MainWindow.redrawing()
+    Keys.forwardTo: [keyHandler]
     Component.onCompleted: {
+        FocusHome.home = keyHandler;
         loadCapturingPlugin();
         progressBox();
         panels.read();
@@ -65,6 +67,15 @@ SceneDevices {
 
     function pasteFrames() {
         timelineBox.pasteFrames();
+    }
+
+    // The picture's window for a second screen is not part of this version.
+    function previewWindow() {
+        tell(Zum.Info, qsTr("This version has no preview window yet."));
+    }
+
+    function importClipboardImages() {
+        tell(Zum.Info, qsTr("This version cannot import pictures yet."));
     }
 
     function projectIsLoaded() {
@@ -173,11 +184,6 @@ SceneDevices {
 
     PopupMessage {
         id: popupMessage
-
-        z: 900
-        anchors.horizontalCenter: parent.horizontalCenter
-        anchors.top: topLine.bottom
-        anchors.topMargin: DefFontSizeNormal
     }
 
     Dialog {

@@ -12,8 +12,12 @@ AppEnvironment AppEnvironment::system(std::unique_ptr<Settings> settings)
     environment.settings = std::move(settings);
     environment.dialogs = std::make_unique<SystemDialogs>();
     environment.desktop = morvane::makeDesktopServices();
-    environment.now = [] { return QDateTime::currentDateTime(); };
-    environment.quit = [] { QCoreApplication::quit(); };
+    environment.now = [] {
+        return QDateTime::currentDateTime();
+    };
+    environment.quit = [] {
+        QCoreApplication::quit();
+    };
     environment.systemLocale = LocaleChoice::systemLocaleName();
     if (const QScreen *screen = QGuiApplication::primaryScreen())
         environment.logicalDpi = qRound(screen->logicalDotsPerInchX());

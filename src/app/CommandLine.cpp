@@ -13,10 +13,11 @@ QString informationText(const QStringList &arguments)
     if (arguments.contains(QStringLiteral("--version")) || arguments.contains(QStringLiteral("-v")))
         return appinfo::fullName();
     if (arguments.contains(QStringLiteral("--help")) || arguments.contains(QStringLiteral("-h")))
-        return QStringLiteral("Usage: morvane [PROJECT.kzfx]\n"
-                              "Shoots stop-motion animation. Opens the project, if one is given.\n\n"
-                              "  -h, --help     this text\n"
-                              "  -v, --version  the version");
+        return QStringLiteral(
+            "Usage: morvane [PROJECT.kzfx]\n"
+            "Shoots stop-motion animation. Opens the project, if one is given.\n\n"
+            "  -h, --help     this text\n"
+            "  -v, --version  the version");
     return QString();
 }
 

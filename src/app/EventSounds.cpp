@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr std::array<const char *, EventSounds::count> files{"warning", "big-warning", "notify", "error", "appear"};
+constexpr std::array<const char *, EventSounds::count> files{"warning", "big-warning", "notify", "error",
+                                                             "appear"};
 
 } // namespace
 
@@ -18,7 +19,7 @@ bool EventSounds::available()
     // Asking the multimedia library would connect to a sound server and hold up the start.
     const QDir runtime(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
     return QFile::exists(QStringLiteral("/proc/asound/pcm")) || runtime.exists(QStringLiteral("pulse/native"))
-        || runtime.exists(QStringLiteral("pipewire-0"));
+           || runtime.exists(QStringLiteral("pipewire-0"));
 #else
     return true;
 #endif

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QObject>
 #include <array>
+#include <QObject>
 
 class QSoundEffect;
 

@@ -1,6 +1,8 @@
 #include "app/QuitSequence.h"
 
-QuitSequence::QuitSequence(Host &host, QObject *parent) : QObject(parent), m_host(host) {}
+QuitSequence::QuitSequence(Host &host, QObject *parent) : QObject(parent), m_host(host)
+{
+}
 
 bool QuitSequence::attempt()
 {

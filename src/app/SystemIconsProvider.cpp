@@ -19,7 +19,9 @@ QIcon iconOf(const QString &path)
 
 } // namespace
 
-SystemIconsProvider::SystemIconsProvider() : QQuickImageProvider(QQuickImageProvider::Pixmap) {}
+SystemIconsProvider::SystemIconsProvider() : QQuickImageProvider(QQuickImageProvider::Pixmap)
+{
+}
 
 QPixmap SystemIconsProvider::requestPixmap(const QString &id, QSize *size, const QSize &requestedSize)
 {

@@ -8,33 +8,34 @@ namespace translations {
 
 const QStringList &names()
 {
-    static const QStringList list = QStringLiteral(
-        "Main MorvaneRoot Timeline Display ZeitRaffer FlipFlop HistogramBox MainWindow VideoPreview "
-        "LastProjects RenderPane ButtonDropPanel About Morva MorvaRobot FramesModel Scrollbar "
-        "QRamPreview SizeControl LoadDialog ConfirmDialog QVideoEncoder MessagesBox PropertiesDialog "
-        "QOpenCVWidget VideoPane CaptureControlsPane AboutAndProperties ScreenControls AreaSelector "
-        "TextPropertyInput KeyShortcuts LightboxWindow FileInfoItem FramePropertiesDialog "
-        "CamDisconnectConfirmDialog CamReconnectConfirmDialog SaveConfirmDialog NumberInput4 "
-        "WebCameraConnectBox AddProjectButtons TimelineFrame RenderVideoButtons RangeWarnerButton "
-        "MultiplierWatcherButton ButtonShowVideoDir AlignGrid ImageQualityDialog CanonCameraControls "
-        "CanonCameraWindow CaptureDeviceSwitch ChangesWillTakeEffect SequenceExportBox ConnectionsBox "
-        "CamReloadDeviceConfirmDialog PreviewWindow_old ButtonRowDropPanel PowerFactor "
-        "FramePropertiesPanel ProjectBrowser NewWebCameraWindow NewWebCameraControls QCanonCamWindow "
-        "QCanonCamLiveViewThread WebCamWindow WebCamLiveViewThread SimpleDisplayDisconnector "
-        "DeviceSelectionDialog RamBox SliderNew FiltersControls Empty ChromaBox ProjectPresets "
-        "ProjectPresetsButton ZoomSidePanel VectorBox LayersSettings GuidesTools LayersListItem "
-        "ConfirmImagesImportDialog PrintPDF Onionskin ExportPolicy CaptureFeaturesTabs BlendModesBox "
-        "AppWindow MainViewTabs FrameMetaDataDisplay CameraTabs VideoVillageWindow "
-        "OpenWithExternalEditor ContextMenu CurrentFrameInfoBtn DigitalExposureCompensationCtrl "
-        "WebCameraSettings TimelineScale PlayPauseButton FocusRow VideoExtractorWarning Oscilloscope "
-        "WaveFormBox ImageScaleDropPanel NumberInput5 PostProcessValue AddRemoveFramesPanel ExportSize "
-        "ColorChooser ExportBox ExportPolicyDialog ExportPolicyDialog_Video ExportPolicyDialog_Sequence "
-        "RenderStringGenerator CopyPasteButton CapmodesTab CommonCameraControlsPane "
-        "PostProcessFiltersDialog MaskBox FlickerBox PostProcessBackground PostProcessChromaControl "
-        "RemoveVideoEffectBtn ExposureControlBox ExposureControl ExpandBtn VideoEffects FolderItem "
-        "VideoFormatsButtonsRow WebpSettingsBox AnimationExporter WebcamGlobal VideoPreviewExample "
-        "VideoPreviewSlider VectorBoxLineEditor ")
-        .split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    static const QStringList list =
+        QStringLiteral(
+            "Main MorvaneRoot Timeline Display ZeitRaffer FlipFlop HistogramBox MainWindow VideoPreview "
+            "LastProjects RenderPane ButtonDropPanel About Morva MorvaRobot FramesModel Scrollbar "
+            "QRamPreview SizeControl LoadDialog ConfirmDialog QVideoEncoder MessagesBox PropertiesDialog "
+            "QOpenCVWidget VideoPane CaptureControlsPane AboutAndProperties ScreenControls AreaSelector "
+            "TextPropertyInput KeyShortcuts LightboxWindow FileInfoItem FramePropertiesDialog "
+            "CamDisconnectConfirmDialog CamReconnectConfirmDialog SaveConfirmDialog NumberInput4 "
+            "WebCameraConnectBox AddProjectButtons TimelineFrame RenderVideoButtons RangeWarnerButton "
+            "MultiplierWatcherButton ButtonShowVideoDir AlignGrid ImageQualityDialog CanonCameraControls "
+            "CanonCameraWindow CaptureDeviceSwitch ChangesWillTakeEffect SequenceExportBox ConnectionsBox "
+            "CamReloadDeviceConfirmDialog PreviewWindow_old ButtonRowDropPanel PowerFactor "
+            "FramePropertiesPanel ProjectBrowser NewWebCameraWindow NewWebCameraControls QCanonCamWindow "
+            "QCanonCamLiveViewThread WebCamWindow WebCamLiveViewThread SimpleDisplayDisconnector "
+            "DeviceSelectionDialog RamBox SliderNew FiltersControls Empty ChromaBox ProjectPresets "
+            "ProjectPresetsButton ZoomSidePanel VectorBox LayersSettings GuidesTools LayersListItem "
+            "ConfirmImagesImportDialog PrintPDF Onionskin ExportPolicy CaptureFeaturesTabs BlendModesBox "
+            "AppWindow MainViewTabs FrameMetaDataDisplay CameraTabs VideoVillageWindow "
+            "OpenWithExternalEditor ContextMenu CurrentFrameInfoBtn DigitalExposureCompensationCtrl "
+            "WebCameraSettings TimelineScale PlayPauseButton FocusRow VideoExtractorWarning Oscilloscope "
+            "WaveFormBox ImageScaleDropPanel NumberInput5 PostProcessValue AddRemoveFramesPanel ExportSize "
+            "ColorChooser ExportBox ExportPolicyDialog ExportPolicyDialog_Video ExportPolicyDialog_Sequence "
+            "RenderStringGenerator CopyPasteButton CapmodesTab CommonCameraControlsPane "
+            "PostProcessFiltersDialog MaskBox FlickerBox PostProcessBackground PostProcessChromaControl "
+            "RemoveVideoEffectBtn ExposureControlBox ExposureControl ExpandBtn VideoEffects FolderItem "
+            "VideoFormatsButtonsRow WebpSettingsBox AnimationExporter WebcamGlobal VideoPreviewExample "
+            "VideoPreviewSlider VectorBoxLineEditor ")
+            .split(QLatin1Char(' '), Qt::SkipEmptyParts);
     return list;
 }
 

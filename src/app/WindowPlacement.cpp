@@ -4,6 +4,7 @@
 
 #include <QDataStream>
 #include <QGuiApplication>
+#include <QIODevice>
 #include <QRect>
 #include <QScreen>
 #include <QWindow>

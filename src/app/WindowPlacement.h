@@ -5,8 +5,8 @@
 class QWindow;
 class Settings;
 
-/// Where a window stood, kept in the settings under a group of its own. A window that was maximized comes back
-/// maximized on its screen; one whose place is on no screen any more comes to the first.
+/// Where a window stood, kept in the settings under a group of its own. A window that was maximized comes
+/// back maximized on its screen; one whose place is on no screen any more comes to the first.
 class WindowPlacement
 {
 public:

@@ -4,10 +4,10 @@
 #include "shared/WebcamGlobal.h"
 #include "shared/Zum.h"
 
-#include <QCoreApplication>
-#include <QtDebug>
 #include <algorithm>
 #include <array>
+#include <QCoreApplication>
+#include <QtDebug>
 
 namespace {
 
@@ -17,9 +17,9 @@ QString text(const char *source)
 }
 
 /// Parts of names that web cameras bear.
-constexpr std::array<const char *, 18> webcamWords{"web",   "usb", "logi",  "microsoft", "razer",    "mevo",
-                                                   "defe",  "sven", "trust", "tec",       "gopro",    "creat",
-                                                   "b2",    "rosewill", "intel", "front", "rear", "device"};
+constexpr std::array<const char *, 18> webcamWords{
+    "web", "usb",   "logi",  "microsoft", "razer",    "mevo",  "defe",  "sven", "trust",
+    "tec", "gopro", "creat", "b2",        "rosewill", "intel", "front", "rear", "device"};
 
 bool soundsLikeWebcam(const QString &lowerName)
 {
@@ -30,12 +30,12 @@ bool soundsLikeWebcam(const QString &lowerName)
 QString iconOf(int kind)
 {
     switch (kind) {
-    case Zum::CapturingDeviceCanonEOS:
-        return QStringLiteral("images/photocam.svg");
-    case Zum::CapturingDeviceHDMITethering:
-        return QStringLiteral("images/dongle.svg");
-    default:
-        return QStringLiteral("images/webcam.svg");
+        case Zum::CapturingDeviceCanonEOS:
+            return QStringLiteral("images/photocam.svg");
+        case Zum::CapturingDeviceHDMITethering:
+            return QStringLiteral("images/dongle.svg");
+        default:
+            return QStringLiteral("images/webcam.svg");
     }
 }
 
@@ -60,14 +60,14 @@ void DeviceSelection::setCurrentCapturingDevice(int kind)
 QString DeviceSelection::currentCapturingDeviceType() const
 {
     switch (m_chosenKind) {
-    case Zum::CapturingDeviceCanonEOS:
-        return text(QT_TRANSLATE_NOOP("MainWindow", "DSLR"));
-    case Zum::CapturingDeviceWebcam:
-        return text(QT_TRANSLATE_NOOP("MainWindow", "Webcam"));
-    case Zum::CapturingDeviceHDMITethering:
-        return text(QT_TRANSLATE_NOOP("MainWindow", "Video Capture Device"));
-    default:
-        return QString();
+        case Zum::CapturingDeviceCanonEOS:
+            return text(QT_TRANSLATE_NOOP("MainWindow", "DSLR"));
+        case Zum::CapturingDeviceWebcam:
+            return text(QT_TRANSLATE_NOOP("MainWindow", "Webcam"));
+        case Zum::CapturingDeviceHDMITethering:
+            return text(QT_TRANSLATE_NOOP("MainWindow", "Video Capture Device"));
+        default:
+            return QString();
     }
 }
 
@@ -97,7 +97,7 @@ int DeviceSelection::getDeviceTypeByName(const QString &name) const
     // A device that calls itself a device or a camera in the user's language is taken for a web camera. The
     // translation is not lowered, so one that begins with a capital never matches.
     const bool generic = lowerName.contains(text(QT_TRANSLATE_NOOP("MainWindow", "device")))
-        || lowerName.contains(text(QT_TRANSLATE_NOOP("MainWindow", "camera")));
+                         || lowerName.contains(text(QT_TRANSLATE_NOOP("MainWindow", "camera")));
     return generic ? Zum::CapturingDeviceWebcam : Zum::CapturingDeviceHDMITethering;
 }
 

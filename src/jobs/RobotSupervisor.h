@@ -5,7 +5,8 @@
 
 #include <QString>
 
-/// What the scene sees of the background worker: which job runs, and the way to ask it to stop. Main thread only.
+/// What the scene sees of the background worker: which job runs, and the way to ask it to stop. Main thread
+/// only.
 class RobotSupervisor : public QObject
 {
     Q_OBJECT

@@ -82,11 +82,9 @@ int colorNameToHue(const QString &name)
         wanted = QLatin1Char('#') + wanted.right(6);
     else if (bareHex.match(wanted).hasMatch())
         wanted = QLatin1Char('#') + wanted;
-    QColor color;
-    if (QColor::isValidColor(wanted))
-        color.setNamedColor(wanted);
-    else
-        color.setNamedColor(QStringLiteral("blue"));
+    QColor color = QColor::fromString(wanted);
+    if (!color.isValid())
+        color = QColor(Qt::blue);
     const int hue = color.hslHue();
     return hue == -1 ? color.lightness() : hue;
 }

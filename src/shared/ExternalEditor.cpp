@@ -58,7 +58,7 @@ void ExternalEditor::startWithExternalEditor(const QString &path)
     const QFileInfo file(filePath);
     if (!QFileInfo::exists(m_program))
         fail(QT_TRANSLATE_NOOP("MainWindow", "External programm not found %1"), m_program);
-    else if (!file.exists())
+    else if (!file.isFile())
         fail(QT_TRANSLATE_NOOP("MainWindow", "Cannot find file to open %1"), filePath);
     else if (!file.isReadable())
         fail(QT_TRANSLATE_NOOP("MainWindow", "File is not readable %1"), filePath);

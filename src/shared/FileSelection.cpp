@@ -36,30 +36,35 @@ FileSelection::Request FileSelection::requestFor(int filterType)
     switch (filterType) {
         case Zum::NewProjectFilesFilter:
             return {windowText(QT_TRANSLATE_NOOP("MainWindow", "Open Project...")),
-                    pattern(projectFilesLabel(), QStringLiteral("*.kzfx")), QString()};
+                    pattern(projectFilesLabel(), QStringLiteral("*.kzfx")),
+                    Start::ProjectFolder,
+                    {}};
         case Zum::VideoFilesFilter:
             return {windowText(QT_TRANSLATE_NOOP("MainWindow", "Open Video...")),
                     pattern(windowText(QT_TRANSLATE_NOOP("MainWindow", "Video files")), morvane::videoFilters)
                         + pattern(windowText(QT_TRANSLATE_NOOP("MainWindow", "Audio files")),
                                   QStringLiteral("*.mp3")),
-                    QStringLiteral("lastvideodir")};
+                    Start::LastChosen, QStringLiteral("lastvideodir")};
         case Zum::ExpoImagesFilter:
             return {
                 windowText(QT_TRANSLATE_NOOP("MainWindow", "Open file...")),
                 pattern(windowText(QT_TRANSLATE_NOOP("MainWindow", "Images")), morvane::exportImageFilters),
-                QStringLiteral("lastbackgrounddir")};
+                Start::LastChosen, QStringLiteral("lastbackgrounddir")};
         case Zum::IccProfilesFilter:
             return {windowText(QT_TRANSLATE_NOOP("MainWindow", "Open ICC Profile...")),
                     pattern(windowText(QT_TRANSLATE_NOOP("MainWindow", "ICC profiles")), morvane::iccFilters),
-                    QStringLiteral("lasticcpath")};
+                    Start::LastChosen, QStringLiteral("lasticcpath")};
         case Zum::ExecudablesFilter:
-            return {windowText(QT_TRANSLATE_NOOP("MainWindow", "Choose an external editor...")), QString(),
-                    QString()};
+            return {windowText(QT_TRANSLATE_NOOP("MainWindow", "Choose an external editor...")),
+                    QString(),
+                    Start::Anywhere,
+                    {}};
         default:
             return {windowText(QT_TRANSLATE_NOOP("MainWindow", "Open Project...")),
                     pattern(projectFilesLabel(), QStringLiteral("*.kzfx *.kzf"))
                         + windowText(QT_TRANSLATE_NOOP("MainWindow", "All Files")) + QStringLiteral(" (*)"),
-                    QString()};
+                    Start::ProjectFolder,
+                    {}};
     }
 }
 
@@ -78,12 +83,16 @@ QString FileSelection::htmlFilter()
     return pattern(windowText(QT_TRANSLATE_NOOP("MainWindow", "HTML files")), QStringLiteral("*.HTML"));
 }
 
-QString FileSelection::startFolder(const Request &request) const
+QString FileSelection::startPath(const Request &request) const
 {
-    if (!request.folderKey.isEmpty())
-        return m_settings.value(request.folderKey).toString();
-    if (request.filter.isEmpty())
-        return QString();
+    switch (request.start) {
+        case Start::LastChosen:
+            return m_settings.value(request.rememberedKey).toString();
+        case Start::Anywhere:
+            return QString();
+        case Start::ProjectFolder:
+            break;
+    }
     const QString projectFolder = m_projectFolder();
     if (!projectFolder.isEmpty())
         return projectFolder;
@@ -94,11 +103,11 @@ QString FileSelection::startFolder(const Request &request) const
 QString FileSelection::openFileDialog(int filterType)
 {
     const Request request = requestFor(filterType);
-    const QString path = m_dialogs.openFile(request.caption, startFolder(request), request.filter);
+    const QString path = m_dialogs.openFile(request.caption, startPath(request), request.filter);
     if (path.isEmpty())
         m_global.setAfterConfirmAction(Zum::NoAfterConfirmAction);
-    else if (!request.folderKey.isEmpty())
-        m_settings.setValue(request.folderKey, path);
+    else if (request.start == Start::LastChosen)
+        m_settings.setValue(request.rememberedKey, path);
     return path;
 }
 

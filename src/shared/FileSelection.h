@@ -19,13 +19,24 @@ class FileSelection : public QObject
     Q_OBJECT
 
 public:
+    /// Where a dialog begins.
+    enum class Start {
+        /// In the open project's folder, else in the last one's, else at home.
+        ProjectFolder,
+        /// At the file that was chosen last in a dialog of this kind.
+        LastChosen,
+        /// Wherever the system likes.
+        Anywhere,
+    };
+
     /// What a dialog of one kind shows.
     struct Request
     {
         QString caption;
         QString filter;
-        /// The settings key of the last file chosen; empty when it is not remembered.
-        QString folderKey;
+        Start start = Start::ProjectFolder;
+        /// With Start::LastChosen, the settings key of that file.
+        QString rememberedKey;
     };
 
     /// `projectFolder` gives the open project's folder, or an empty string without a project.
@@ -45,7 +56,7 @@ public:
     QString selectFolderDialog(const QString &start);
 
 private:
-    QString startFolder(const Request &request) const;
+    QString startPath(const Request &request) const;
 
     morvane::Dialogs &m_dialogs;
     Settings &m_settings;

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cmath>
 #include <QObject>
+#include <type_traits>
 
 /// Properties in one row each. A setter stores and signals only on a real change.
 ///
@@ -8,11 +10,15 @@
 
 namespace morvane {
 
-/// Whether two property values are the same, bit for bit in the case of reals: a change of any size is a
-/// change.
+/// Whether two property values are the same. Of reals a difference of any size is a change, but one "not a
+/// number" is the same as another, or it would signal for ever.
 template <typename T>
 bool sameValue(const T &a, const T &b)
 {
+    if constexpr (std::is_floating_point_v<T>) {
+        if (std::isnan(a) && std::isnan(b))
+            return true;
+    }
     return a == b;
 }
 

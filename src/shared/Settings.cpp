@@ -7,6 +7,30 @@
 #include <QFile>
 #include <QFileInfo>
 
+namespace {
+
+bool boolFromText(const QString &text, bool fallback)
+{
+    if (text == QLatin1String("true") || text == QLatin1String("1"))
+        return true;
+    if (text == QLatin1String("false") || text == QLatin1String("0"))
+        return false;
+    return fallback;
+}
+
+/// An int where the text holds one, so that a script finds what it has stored; else a real, else `fallback`.
+QVariant numberFromText(const QString &text, const QVariant &fallback)
+{
+    bool ok = false;
+    const int integer = text.toInt(&ok);
+    if (ok)
+        return integer;
+    const double real = text.toDouble(&ok);
+    return ok ? QVariant(real) : fallback;
+}
+
+} // namespace
+
 Settings::Settings(QObject *parent)
     : Settings(QSettings(QSettings::IniFormat, QSettings::UserScope, morvane::organisationName,
                          morvane::applicationName)
@@ -47,7 +71,19 @@ QString Settings::filePath() const
 
 QVariant Settings::value(const QString &key, const QVariant &fallback) const
 {
-    return m_store->value(key, fallback);
+    const QVariant stored = m_store->value(key, fallback);
+    if (stored.typeId() != QMetaType::QString)
+        return stored;
+    switch (fallback.typeId()) {
+        case QMetaType::Bool:
+            return boolFromText(stored.toString(), fallback.toBool());
+        case QMetaType::Int:
+        case QMetaType::LongLong:
+        case QMetaType::Double:
+            return numberFromText(stored.toString(), fallback);
+        default:
+            return stored;
+    }
 }
 
 void Settings::setValue(const QString &key, const QVariant &value)
@@ -81,19 +117,17 @@ bool Settings::boolean(const QString &key, bool fallback) const
     const QVariant stored = m_store->value(key);
     if (stored.typeId() == QMetaType::Bool)
         return stored.toBool();
-    const QString text = stored.toString();
-    if (text == QLatin1String("true") || text == QLatin1String("1"))
-        return true;
-    if (text == QLatin1String("false") || text == QLatin1String("0"))
-        return false;
-    return fallback;
+    return boolFromText(stored.toString(), fallback);
 }
 
 int Settings::integer(const QString &key, int fallback) const
 {
+    const QVariant stored = m_store->value(key);
     bool ok = false;
-    const int stored = m_store->value(key).toInt(&ok);
-    return ok ? stored : fallback;
+    // A text is read by itself: a variant would cut a number that is too large.
+    const int number =
+        stored.typeId() == QMetaType::QString ? stored.toString().toInt(&ok) : stored.toInt(&ok);
+    return ok ? number : fallback;
 }
 
 int Settings::integer(const QString &key, int fallback, int lowest, int highest) const
@@ -103,15 +137,21 @@ int Settings::integer(const QString &key, int fallback, int lowest, int highest)
 
 void Settings::setGroupValue(const QString &group, const QString &key, const QVariant &value)
 {
+    const QString clean = morvane::cleanStr(key);
+    if (clean.isEmpty())
+        return;
     m_store->beginGroup(group);
-    m_store->setValue(morvane::cleanStr(key), value);
+    m_store->setValue(clean, value);
     m_store->endGroup();
 }
 
 void Settings::removeGroupValue(const QString &group, const QString &key)
 {
     m_store->beginGroup(group);
-    m_store->remove(morvane::cleanStr(key));
+    // Cleaning twice is not always cleaning once, so a key that was read back is taken as it is.
+    const QString stored = m_store->contains(key) ? key : morvane::cleanStr(key);
+    if (!stored.isEmpty())
+        m_store->remove(stored);
     m_store->endGroup();
 }
 

@@ -36,6 +36,8 @@ public:
     }
     QString filePath() const;
 
+    /// The stored value, else `fallback`. The file keeps numbers and truth values as text; they come back as
+    /// what they were when `fallback` is one of that kind.
     QVariant value(const QString &key, const QVariant &fallback = {}) const;
     void setValue(const QString &key, const QVariant &value);
     bool contains(const QString &key) const;
@@ -51,8 +53,10 @@ public:
     /// The same limited to a range.
     int integer(const QString &key, int fallback, int lowest, int highest) const;
 
-    /// Sets a key of a group, its name cleaned of what a key does not bear.
+    /// Sets a key of a group, its name cleaned of what a key does not bear; a name with nothing left of it
+    /// sets nothing.
     void setGroupValue(const QString &group, const QString &key, const QVariant &value);
+    /// Removes a key of a group, given as it was set or as groupValues() has it.
     void removeGroupValue(const QString &group, const QString &key);
     /// The keys of a group with their values; a map value is taken over only if it holds a "name".
     QVariantMap groupValues(const QString &group) const;

@@ -16,7 +16,9 @@ QString millisecondsToHHMMSS(int milliseconds)
 
 QString secondsToHHMMSS(int seconds)
 {
-    return millisecondsToHHMMSS(seconds * 1000);
+    // Wrapped first, so that no number of seconds is too many milliseconds for an int.
+    constexpr int secondsPerDay = 24 * 60 * 60;
+    return millisecondsToHHMMSS(seconds % secondsPerDay * 1000);
 }
 
 } // namespace morvane

@@ -64,7 +64,8 @@ ExportSize exportSizeFor(int wantedWidth, qreal heightPerWidth)
 {
     const int width = morvane::roundUp(
         std::max(std::min(wantedWidth, morvane::maxFrameWidth), morvane::exportVideoMinFrameWidth));
-    return {width, morvane::roundUp(static_cast<int>(width * heightPerWidth))};
+    const qreal height = std::min<qreal>(width * heightPerWidth, morvane::maxFrameHeight);
+    return {width, morvane::roundUp(static_cast<int>(height))};
 }
 
 } // namespace
@@ -75,6 +76,16 @@ WebcamGlobal::WebcamGlobal(QObject *parent) : CommandBus(parent)
     m_scaleTimer.setInterval(1000ms);
     connect(&m_scaleTimer, &QTimer::timeout, this, &WebcamGlobal::_calculateDisplayAndCoordSystemScale);
     connect(this, &WebcamGlobal::connectedCamIndexChanged, this, &WebcamGlobal::updateCoordSystemSize);
+    const auto followExportSize = [this] {
+        setExportSize(QSize(exportSizeW(), exportSizeH()));
+    };
+    connect(this, &WebcamGlobal::exportSizeWChanged, this, followExportSize);
+    connect(this, &WebcamGlobal::exportSizeHChanged, this, followExportSize);
+    const auto followSequenceSize = [this] {
+        setSequenceExportSize(QSize(sequenceExportSizeW(), sequenceExportSizeH()));
+    };
+    connect(this, &WebcamGlobal::sequenceExportSizeWChanged, this, followSequenceSize);
+    connect(this, &WebcamGlobal::sequenceExportSizeHChanged, this, followSequenceSize);
     connect(this, &WebcamGlobal::projectChangedChanged, this, [this] {
         if (!projectChanged())
             emit saved();
@@ -149,17 +160,19 @@ void WebcamGlobal::computeScales()
     if (fit > 0)
         setDisplayScale(fit);
     qreal scale = fit;
-    if (coordSystemWidth() > 0) {
+    // Without a picture there is no ratio to its width, and a scale of zero would hide everything drawn.
+    if (coordSystemWidth() > 0 && width() > 0) {
         const qreal sourcePerUnit = width() / coordSystemWidth();
         if (sourcePerUnit < 1.0)
             scale = sourcePerUnit * fit;
     }
-    setCoordSystemScale(std::round(static_cast<float>(scale * 10000)) / 10000.0F);
-    m_scaleTimer.stop();
+    setCoordSystemScale(static_cast<float>(std::round(scale * 10000)) / 10000.0F);
 }
 
 void WebcamGlobal::updateCropAreaScale(qreal w, qreal h)
 {
+    if (w <= 0 || h <= 0)
+        return;
     setCamScaledCropAreaW(static_cast<float>(cropAreaW() / w));
     setCamScaledCropAreaH(static_cast<float>(cropAreaH() / h));
 }
@@ -170,11 +183,9 @@ void WebcamGlobal::updateExportSizes()
     const ExportSize video = exportSizeFor(exportSizeW(), heightPerWidth);
     setExportSizeH(video.height);
     setExportSizeW(video.width);
-    setExportSize(QSize(video.width, video.height));
     const ExportSize sequence = exportSizeFor(sequenceExportSizeW(), heightPerWidth);
     setSequenceExportSizeH(sequence.height);
     setSequenceExportSizeW(sequence.width);
-    setSequenceExportSize(QSize(sequence.width, sequence.height));
 }
 
 void WebcamGlobal::checkUserInactivity()

@@ -41,7 +41,8 @@ public slots:
     /// Asks for displayScale and coordSystemScale to be worked out for an area of that many pixels. Requests
     /// that come while one waits replace its size. Nothing happens while paused.
     void calculateDisplayAndCoordSystemScale(int availW, int availH);
-    /// Sets camScaledCropAreaW and camScaledCropAreaH for a camera picture of w x h pixels.
+    /// Sets camScaledCropAreaW and camScaledCropAreaH for a camera picture of w x h pixels; a picture without
+    /// an area changes nothing.
     void updateCropAreaScale(qreal w, qreal h);
     /// Brings both export sizes to the shape of the crop area, in multiples of 8.
     void updateExportSizes();
@@ -69,7 +70,7 @@ private:
     void updateCoordSystemSize();
     void computeScales();
 
-    QTimer m_scaleTimer;
+    QTimer m_scaleTimer{this};
     int m_availableWidth = 0;
     int m_availableHeight = 0;
 };

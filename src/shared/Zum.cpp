@@ -1,10 +1,23 @@
 #include "shared/Zum.h"
 
 #include <cmath>
+#include <mutex>
 
 namespace {
 double s_dpiScale = 1.0;
 bool s_headless = false;
+
+struct SharedFolders
+{
+    std::mutex mutex;
+    Zum::ProjectFolders folders;
+};
+
+SharedFolders &sharedFolders()
+{
+    static SharedFolders shared;
+    return shared;
+}
 } // namespace
 
 double Zum::dpiScale()
@@ -25,6 +38,18 @@ bool Zum::headless()
 void Zum::setHeadless(bool headless)
 {
     s_headless = headless;
+}
+
+Zum::ProjectFolders Zum::projectFolders()
+{
+    const std::lock_guard lock(sharedFolders().mutex);
+    return sharedFolders().folders;
+}
+
+void Zum::setProjectFolders(const ProjectFolders &folders)
+{
+    const std::lock_guard lock(sharedFolders().mutex);
+    sharedFolders().folders = folders;
 }
 
 double Zum::srgbToLinear(int channel)

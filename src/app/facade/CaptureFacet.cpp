@@ -2,12 +2,14 @@
 
 #include "app/AppControllers.h"
 
-CaptureFacet::CaptureFacet(std::unique_ptr<AppControllers> controllers) : MessagesFacet(std::move(controllers))
+CaptureFacet::CaptureFacet(std::unique_ptr<AppControllers> controllers)
+    : MessagesFacet(std::move(controllers))
 {
     const DeviceSelection &devices = this->controllers().devices;
     connect(&devices, &DeviceSelection::currentCapturingDeviceChanged, this,
             &CaptureFacet::currentCapturingDeviceChanged);
-    connect(&devices, &DeviceSelection::currentDeviceTypeChanged, this, &CaptureFacet::currentDeviceTypeChanged);
+    connect(&devices, &DeviceSelection::currentDeviceTypeChanged, this,
+            &CaptureFacet::currentDeviceTypeChanged);
     connect(&devices, &DeviceSelection::currentCapturingDeviceIconChanged, this,
             &CaptureFacet::currentCapturingDeviceIconChanged);
     connect(&devices, &DeviceSelection::capturingDeviceObjectChanged, this,

@@ -11,10 +11,10 @@ class CaptureFacet : public MessagesFacet
     Q_PROPERTY(int currentCapturingDevice READ currentCapturingDevice WRITE setCurrentCapturingDevice NOTIFY
                    currentCapturingDeviceChanged)
     Q_PROPERTY(int currentDeviceType READ currentDeviceType NOTIFY currentDeviceTypeChanged)
-    Q_PROPERTY(
-        QString currentCapturingDeviceIcon READ currentCapturingDeviceIcon NOTIFY currentCapturingDeviceIconChanged)
-    Q_PROPERTY(
-        QString currentCapturingDeviceType READ currentCapturingDeviceType NOTIFY currentCapturingDeviceChanged)
+    Q_PROPERTY(QString currentCapturingDeviceIcon READ currentCapturingDeviceIcon NOTIFY
+                   currentCapturingDeviceIconChanged)
+    Q_PROPERTY(QString currentCapturingDeviceType READ currentCapturingDeviceType NOTIFY
+                   currentCapturingDeviceChanged)
     Q_PROPERTY(QVariant capturingDeviceObject READ capturingDeviceObject WRITE setCapturingDeviceObject NOTIFY
                    capturingDeviceObjectChanged)
     Q_PROPERTY(QVariant cameraQML READ cameraQML WRITE setCameraQML NOTIFY cameraQMLChanged)

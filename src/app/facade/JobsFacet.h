@@ -7,7 +7,8 @@ class JobsFacet : public SettingsFacet
 {
     Q_OBJECT
     Q_PROPERTY(int currentRobotJob READ currentRobotJob NOTIFY currentRobotJobChanged)
-    Q_PROPERTY(bool morvaRobotThreadStarted READ morvaRobotThreadStarted NOTIFY morvaRobotThreadStartedChanged)
+    Q_PROPERTY(
+        bool morvaRobotThreadStarted READ morvaRobotThreadStarted NOTIFY morvaRobotThreadStartedChanged)
 
 public:
     explicit JobsFacet(std::unique_ptr<AppControllers> controllers);

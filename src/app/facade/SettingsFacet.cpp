@@ -12,14 +12,16 @@ constexpr int automaticFontIndex = -1;
 
 } // namespace
 
-SettingsFacet::SettingsFacet(std::unique_ptr<AppControllers> controllers) : WindowFacet(std::move(controllers))
+SettingsFacet::SettingsFacet(std::unique_ptr<AppControllers> controllers)
+    : WindowFacet(std::move(controllers))
 {
     AppControllers &c = this->controllers();
     connect(&c.locale, &LocaleChoice::localeNameChanged, this, &SettingsFacet::localeNameChanged);
     connect(&c.editor, &ExternalEditor::externalEditorChanged, this, &SettingsFacet::externalEditorChanged);
     connect(&c.editor, &ExternalEditor::externalEditorNameChanged, this,
             &SettingsFacet::externalEditorNameChanged);
-    connect(&c.clipboard, &ClipboardFrames::weHaveClipboardFrames, this, &SettingsFacet::weHaveClipboardFrames);
+    connect(&c.clipboard, &ClipboardFrames::weHaveClipboardFrames, this,
+            &SettingsFacet::weHaveClipboardFrames);
     connect(&c.lightbox, &LightboxChoice::lightboxModeChanged, this, &SettingsFacet::lightboxModeChanged);
     connect(&c.lightbox, &LightboxChoice::lightboxColorChanged, this, &SettingsFacet::lightboxColorChanged);
 }

@@ -1,5 +1,7 @@
 #include "app/facade/VocabularyFacet.h"
 
+#include "app/AppControllers.h"
+
 #include "shared/NumberText.h"
 #include "shared/StringText.h"
 
@@ -13,7 +15,8 @@ QString VocabularyFacet::formatNumber(int value) const
     return morvane::formatNumber(value);
 }
 
-QString VocabularyFacet::formatSetOfNumbers(const QVariantList &vlist, const QString &separator, int size) const
+QString VocabularyFacet::formatSetOfNumbers(const QVariantList &vlist, const QString &separator,
+                                            int size) const
 {
     return morvane::formatSetOfNumbers(vlist, separator, size);
 }

@@ -1,5 +1,7 @@
 #include "app/facade/WindowFacet.h"
 
+#include "app/AppControllers.h"
+
 #include <QGuiApplication>
 #include <QQuickItem>
 #include <QResizeEvent>
@@ -12,7 +14,7 @@ constexpr QSizeF thumbnailSize{90, 60};
 bool isUserInput(QEvent::Type type)
 {
     return type == QEvent::KeyPress || type == QEvent::MouseMove || type == QEvent::MouseButtonPress
-        || type == QEvent::Wheel;
+           || type == QEvent::Wheel;
 }
 
 } // namespace

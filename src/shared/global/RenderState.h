@@ -22,12 +22,14 @@ class RenderState : public PlayerState
     MORVANE_PROPERTY(QString, exportPolicyText, ExportPolicyText)
     MORVANE_PROPERTY(QString, videoRenderSettsStr, VideoRenderSettsStr)
     MORVANE_PROPERTY(QString, lastRenderedPath, LastRenderedPath)
+    /// Follows exportSizeW and exportSizeH.
     MORVANE_PROPERTY(QSize, exportSize, ExportSize, 1920, 1080)
     MORVANE_PROJECT_PROPERTY(int, exportSizeW, ExportSizeW, 1920)
-    MORVANE_PROPERTY(int, exportSizeH, ExportSizeH, 1080)
+    MORVANE_PROJECT_PROPERTY(int, exportSizeH, ExportSizeH, 1080)
+    /// Follows sequenceExportSizeW and sequenceExportSizeH.
     MORVANE_PROPERTY(QSize, sequenceExportSize, SequenceExportSize, 1920, 1080)
     MORVANE_PROJECT_PROPERTY(int, sequenceExportSizeW, SequenceExportSizeW, 1920)
-    MORVANE_PROPERTY(int, sequenceExportSizeH, SequenceExportSizeH, 1080)
+    MORVANE_PROJECT_PROPERTY(int, sequenceExportSizeH, SequenceExportSizeH, 1080)
     MORVANE_PROJECT_PROPERTY(int, exportPicFormat, ExportPicFormat, Zum::ExportPNG)
     MORVANE_PROJECT_PROPERTY(bool, exportFramesInRangeOnly, ExportFramesInRangeOnly, true)
     MORVANE_PROJECT_PROPERTY(QString, exportPath, ExportPath)

@@ -1,0 +1,4 @@
+import QtQuick
+
+// Nothing: what the window shows while the program goes down.
+Item {}

@@ -1,0 +1,110 @@
+import QtQuick
+
+// What belongs to the project as a whole: its frame size, its rate and who makes it.
+Column {
+    id: projectPane
+
+    required property var scene
+
+    spacing: DefFontSizeMicro
+
+    Pane {
+        width: projectPane.width
+        title: qsTr("Project")
+
+        TextLabel {
+            width: parent.width
+            visible: !MainWindow.projectLoaded
+            wrapMode: Text.Wrap
+            dim: true
+            text: qsTr("No project is open. Its frame size, rate and names are set here.")
+        }
+
+        TextLabel {
+            width: parent.width
+            visible: MainWindow.projectLoaded
+            wrapMode: Text.WrapAnywhere
+            small: true
+            dim: true
+            text: MainWindow.projDirPath
+        }
+
+        NumberInput4 {
+            width: parent.width
+            label: qsTr("Frame width")
+            active: MainWindow.projectLoaded
+            value: WebcamGlobal.cropAreaW
+            minimum: 8
+            maximum: MaxFrameWidth
+            step: 8
+            onEdited: value => WebcamGlobal.cropAreaW = value
+        }
+
+        NumberInput4 {
+            width: parent.width
+            label: qsTr("Frame height")
+            active: MainWindow.projectLoaded
+            value: WebcamGlobal.cropAreaH
+            minimum: 8
+            maximum: MaxFrameHeight
+            step: 8
+            onEdited: value => WebcamGlobal.cropAreaH = value
+        }
+
+        TextButton {
+            text: qsTr("Presets")
+            icon: "svgicons/preset.svg"
+            toolTip: qsTr("Choose a frame size and rate from a list")
+            active: MainWindow.projectLoaded
+            onClicked: projectPane.scene.projectPresetsBox()
+        }
+
+        NumberInput5 {
+            width: parent.width
+            label: qsTr("Frames per second")
+            active: MainWindow.projectLoaded
+            value: FramesModel.timelineFps
+            minimum: 1
+            maximum: maxFps
+            step: 1
+            decimals: 2
+            onEdited: value => FramesModel.timelineFps = value
+        }
+
+        NumberInput4 {
+            width: parent.width
+            label: qsTr("Number of the first frame")
+            active: MainWindow.projectLoaded
+            value: FramesModel.startIndex
+            minimum: 0
+            maximum: startIndexMax
+            onEdited: value => FramesModel.startIndex = value
+        }
+    }
+
+    Pane {
+        width: projectPane.width
+        title: qsTr("Film")
+
+        Repeater {
+            model: [
+                { name: "movieTitle", text: qsTr("Title") },
+                { name: "movieDirector", text: qsTr("Director") },
+                { name: "movieScene", text: qsTr("Scene") },
+                { name: "movieLayer", text: qsTr("Layer") },
+                { name: "authorName", text: qsTr("Animator's name") },
+                { name: "authorSurname", text: qsTr("Animator's surname") }
+            ]
+            delegate: TextPropertyInput {
+                required property var modelData
+
+                width: parent.width
+                active: MainWindow.projectLoaded
+                placeholder: modelData.text
+                label: modelData.text
+                text: WebcamGlobal[modelData.name]
+                onEdited: text => WebcamGlobal[modelData.name] = text
+            }
+        }
+    }
+}

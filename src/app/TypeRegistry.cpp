@@ -1,0 +1,39 @@
+#include "app/TypeRegistry.h"
+
+#include "app/ASlider.h"
+#include "app/CursorShapeArea.h"
+#include "app/QNumImput.h"
+#include "app/WheelArea.h"
+#include "shared/Zum.h"
+#include "timeline/Progress.h"
+
+#include <qqml.h>
+#include <QPainterPath>
+#include <QPolygonF>
+
+namespace typeregistry {
+
+namespace {
+
+template <typename T>
+void add(const char *name)
+{
+    qmlRegisterType<T>(name, 1, 0, name);
+}
+
+} // namespace
+
+void registerTypes()
+{
+    add<Progress>("Progress");
+    add<Zum>("Zum");
+    add<WheelArea>("WheelArea");
+    add<CursorShapeArea>("CursorShapeArea");
+    qRegisterMetaType<QPainterPath>("QPainterPath");
+    qRegisterMetaType<QPolygonF>("QPolygonF");
+    qRegisterMetaType<QPolygon>("QPolygon");
+    add<ASlider>("Aslider");
+    add<QNumImput>("QNumImput");
+}
+
+} // namespace typeregistry

@@ -1,0 +1,53 @@
+#include "app/AppControllers.h"
+#include "app/CommandLine.h"
+#include "app/MainWindow.h"
+#include "app/SplashScreen.h"
+#include "app/Translations.h"
+#include "app/TypeRegistry.h"
+#include "shared/LocaleChoice.h"
+#include "shared/Names.h"
+#include "shared/ScreenDensity.h"
+
+#include <cstdio>
+#include <QApplication>
+#include <QScreen>
+#include <QTimer>
+
+int main(int argc, char *argv[])
+{
+    // Asked for in words alone, the program needs no screen.
+    const QStringList given(argv, argv + argc);
+    if (const QString text = commandline::informationText(given); !text.isEmpty()) {
+        std::puts(qPrintable(text));
+        return 0;
+    }
+
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(true);
+    QApplication::setApplicationName(morvane::applicationName);
+    QApplication::setDesktopFileName(QStringLiteral("morvane-capture"));
+
+    auto settings = std::make_unique<Settings>();
+    const QString locale = LocaleChoice::startLocale(*settings, LocaleChoice::systemLocaleName());
+    typeregistry::registerTypes();
+
+    AppEnvironment environment = AppEnvironment::system(std::move(settings));
+    SplashScreen splash(ScreenDensity::snapped(environment.logicalDpi));
+    splash.show();
+    QCoreApplication::processEvents();
+
+    // The program's own folder comes first; the system's stays, for the image formats and the platform.
+    QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath());
+    QCoreApplication::processEvents();
+    translations::install(locale, &app);
+
+    int result = 0;
+    {
+        MainWindow window(std::make_unique<AppControllers>(std::move(environment)),
+                          QCoreApplication::arguments());
+        window.show();
+        QTimer::singleShot(1500, &splash, &QWidget::close);
+        result = QApplication::exec();
+    }
+    return result;
+}

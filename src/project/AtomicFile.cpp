@@ -1,0 +1,48 @@
+#include "project/AtomicFile.h"
+
+#include <QSaveFile>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#include <cerrno>
+#endif
+
+namespace {
+
+// The rename must not reach the disk before the data does.
+bool flushToDisk(QSaveFile &file)
+{
+    if (!file.flush())
+        return false;
+#ifdef Q_OS_UNIX
+    if (::fsync(file.handle()) == 0)
+        return true;
+    // Some network and user-space file systems cannot flush; there the rename has to do.
+    return errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
+#else
+    return true;
+#endif
+}
+
+} // namespace
+
+AtomicFile::Result AtomicFile::write(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return {false, file.errorString()};
+    if (file.write(bytes) != bytes.size()) {
+        const QString reason = file.errorString();
+        file.cancelWriting();
+        return {false, reason};
+    }
+    if (!flushToDisk(file)) {
+        const bool known = file.error() != QFileDevice::NoError;
+        const QString reason = known ? file.errorString() : tr("The data could not be flushed to the disk");
+        file.cancelWriting();
+        return {false, reason};
+    }
+    if (!file.commit())
+        return {false, file.errorString()};
+    return {true, {}};
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+/// Looks whether a path is that of a project that can be opened: its file and its content folder are there.
+/// Stateless; safe on any thread.
+class ProjectPathCheck
+{
+    Q_DECLARE_TR_FUNCTIONS(ProjectPathCheck)
+
+public:
+    /// What is wrong, as a sentence for the user; empty when nothing is.
+    static QString problem(const QString &projPath);
+    /// The content folder that the check looks for: beside the file, named after all of its name but the
+    /// last suffix. No trailing "/".
+    static QString contentFolder(const QString &projPath);
+    /// An existing, readable plain file that is no symbolic link.
+    static bool isOpenableFile(const QString &path);
+};

@@ -1,0 +1,118 @@
+#include "support/ShellWindow.h"
+
+#include "app/TypeRegistry.h"
+
+#include <QQmlEngine>
+#include <QTest>
+
+namespace {
+
+/// Keeps the warnings of the scene, which also come from loading it, before there is an engine to listen to.
+QStringList *s_warnings = nullptr;
+QtMessageHandler s_before = nullptr;
+
+void keepSceneWarnings(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (s_warnings != nullptr && type == QtWarningMsg && text.contains(QLatin1String("qrc:/")))
+        s_warnings->append(text);
+    s_before(type, context, text);
+}
+
+} // namespace
+
+ShellWindow::ShellWindow()
+{
+    build({});
+}
+
+ShellWindow::ShellWindow(const Options &options)
+{
+    build(options);
+}
+
+ShellWindow::~ShellWindow()
+{
+    m_window.reset();
+    if (s_warnings == &m_warnings)
+        s_warnings = nullptr;
+}
+
+void ShellWindow::build(const Options &options)
+{
+    static const bool registered = [] {
+        typeregistry::registerTypes();
+        return true;
+    }();
+    Q_UNUSED(registered)
+    // Each test function brings the test library's own handler back, so ours goes in front of it each time.
+    if (const QtMessageHandler before = qInstallMessageHandler(keepSceneWarnings);
+        before != keepSceneWarnings)
+        s_before = before;
+    s_warnings = &m_warnings;
+
+    AppEnvironment environment;
+    const QString path = options.settingsPath.isEmpty() ? m_folder.filePath(QStringLiteral("settings.ini"))
+                                                        : options.settingsPath;
+    environment.settings = std::make_unique<Settings>(path);
+    for (auto it = options.settings.cbegin(); it != options.settings.cend(); ++it)
+        environment.settings->setValue(it.key(), it.value());
+    auto dialogs = std::make_unique<FakeDialogs>();
+    auto desktop = std::make_unique<FakeDesktopServices>();
+    m_dialogs = dialogs.get();
+    m_desktop = desktop.get();
+    environment.dialogs = std::move(dialogs);
+    environment.desktop = std::move(desktop);
+    environment.now = [] {
+        return QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26));
+    };
+    environment.quit = [this] {
+        ++m_quits;
+    };
+    environment.systemLocale = options.locale;
+    environment.logicalDpi = options.logicalDpi;
+
+    m_window = std::make_unique<MainWindow>(std::make_unique<AppControllers>(std::move(environment)),
+                                            options.arguments);
+    m_window->resize(options.size);
+    m_window->show();
+    m_window->requestActivate();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+bool ShellWindow::createProject(const QString &name)
+{
+    m_dialogs->pathAnswers.append(m_folder.filePath(name + QStringLiteral(".kzfx")));
+    return m_window->saveProjectXmlFile(Zum::NewProject)
+           && QTest::qWaitFor([this] { return m_window->projectLoaded(); });
+}
+
+void ShellWindow::addFrames(int count)
+{
+    for (int i = 0; i < count; ++i)
+        frames().appendFrame({{QStringLiteral("capFull"), QStringLiteral("frame_%1.jpg").arg(i)}});
+}
+
+QQuickItem *ShellWindow::findItem(const char *property, const QVariant &value, QQuickItem *from) const
+{
+    QQuickItem *start = from != nullptr ? from : m_window->contentItem();
+    if (start->property(property) == value && start->isVisible())
+        return start;
+    const QList<QQuickItem *> children = start->childItems();
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = findItem(property, value, child))
+            return found;
+    }
+    return nullptr;
+}
+
+void ShellWindow::click(QQuickItem *item, Qt::MouseButton button)
+{
+    QVERIFY(item != nullptr);
+    const QPointF middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    QTest::mouseClick(m_window.get(), button, Qt::NoModifier, middle.toPoint());
+}
+
+void ShellWindow::press(int key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(m_window.get(), static_cast<Qt::Key>(key), modifiers);
+}

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "app/AppControllers.h"
+#include "app/MainWindow.h"
+#include "support/FakeDesktopServices.h"
+#include "support/FakeDialogs.h"
+
+#include <QQuickItem>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// The whole program in a window of its own, with settings in a folder that goes with it, and dialogs,
+/// desktop, clock and the way out that a test controls.
+class ShellWindow
+{
+public:
+    struct Options
+    {
+        QStringList arguments{QStringLiteral("morvane")};
+        QString locale = QStringLiteral("en_US");
+        /// Written to the settings before the window is made.
+        QVariantMap settings;
+        QSize size{1280, 760};
+        int logicalDpi = 96;
+        /// A settings file to use instead of a fresh one.
+        QString settingsPath;
+    };
+
+    ShellWindow();
+    explicit ShellWindow(const Options &options);
+    ~ShellWindow();
+
+    MainWindow &window()
+    {
+        return *m_window;
+    }
+    AppControllers &controllers()
+    {
+        return m_window->controllers();
+    }
+    WebcamGlobal &global()
+    {
+        return controllers().global;
+    }
+    FramesModel &frames()
+    {
+        return controllers().frames;
+    }
+    FakeDialogs &dialogs()
+    {
+        return *m_dialogs;
+    }
+    FakeDesktopServices &desktop()
+    {
+        return *m_desktop;
+    }
+    QQuickItem &root()
+    {
+        return *m_window->rootObject();
+    }
+    /// How often the program has asked to end.
+    int quits() const
+    {
+        return m_quits;
+    }
+    QString folder() const
+    {
+        return m_folder.path();
+    }
+    /// What the scene's engine has warned of so far.
+    QStringList sceneWarnings() const
+    {
+        return m_warnings;
+    }
+
+    /// Creates a project of that name in the folder, as the menu would, and waits until it is loaded.
+    bool createProject(const QString &name = QStringLiteral("film"));
+    /// Adds that many frames to the open project; their picture files need not exist.
+    void addFrames(int count);
+    /// The first item of the scene, in depth-first order, for which the property has the value; null for
+    /// none.
+    QQuickItem *findItem(const char *property, const QVariant &value, QQuickItem *from = nullptr) const;
+    /// Clicks into the middle of a visible item.
+    void click(QQuickItem *item, Qt::MouseButton button = Qt::LeftButton);
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+private:
+    void build(const Options &options);
+
+    QTemporaryDir m_folder;
+    FakeDialogs *m_dialogs = nullptr;
+    FakeDesktopServices *m_desktop = nullptr;
+    std::unique_ptr<MainWindow> m_window;
+    QStringList m_warnings;
+    int m_quits = 0;
+};

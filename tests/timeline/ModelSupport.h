@@ -1,0 +1,182 @@
+#pragma once
+
+#include "timeline/FramesModel.h"
+
+#include <mutex>
+#include <QAbstractItemModelTester>
+#include <QIdentityProxyModel>
+#include <QSignalSpy>
+#include <QStringList>
+#include <QTest>
+#include <utility>
+
+/// Ticks when the test says so.
+class HandTicker : public Ticker
+{
+    Q_OBJECT
+
+public:
+    using Ticker::Ticker;
+
+    void start(int intervalMs) override
+    {
+        ++starts;
+        interval = intervalMs;
+        m_active = true;
+    }
+    void stop() override
+    {
+        m_active = false;
+    }
+    bool isActive() const override
+    {
+        return m_active;
+    }
+    /// Does nothing when stopped, as a timer does.
+    void tick(int times = 1)
+    {
+        for (int i = 0; i < times && m_active; ++i)
+            emit ticked();
+    }
+
+    int interval = 0;
+    int starts = 0;
+
+private:
+    bool m_active = false;
+};
+
+/// The model's role numbers start at 0 and overlap the toolkit's own, whose types the model tester checks:
+/// this proxy shows the rows without their values.
+class RowsOnly : public QIdentityProxyModel
+{
+    Q_OBJECT
+
+public:
+    using QIdentityProxyModel::QIdentityProxyModel;
+
+    QVariant data(const QModelIndex &, int) const override
+    {
+        return {};
+    }
+};
+
+/// A frames model that runs by hand, watched by the model tester. Batches take a step a turn of the event
+/// loop; playback ticks by hand.
+class TestModel : public FramesModel
+{
+    Q_OBJECT
+
+public:
+    explicit TestModel(int frames = 0, bool isLoaded = true) : TestModel(new HandTicker, new HandTicker)
+    {
+        fill(frames);
+        if (isLoaded)
+            setLoaded(true);
+    }
+
+    /// Captured names "c0", "c1"... with thumbnails "t0"..., while the project is being filled.
+    void fill(int frames)
+    {
+        for (int i = 0; i < frames; ++i)
+            appendFrame(
+                {{"capFull", QStringLiteral("c%1").arg(i)}, {"capTumb", QStringLiteral("t%1").arg(i)}});
+    }
+    /// The captured names in row order, to see at a glance what stands where.
+    QStringList names() const
+    {
+        QStringList names;
+        for (int row = 0; row < framesCount(); ++row)
+            names.append(frameAt(row).capFull);
+        return names;
+    }
+    QList<int> guidsInOrder() const
+    {
+        QList<int> guids;
+        for (int row = 0; row < framesCount(); ++row)
+            guids.append(frameAt(row).guid());
+        return guids;
+    }
+    QList<int> holds() const
+    {
+        QList<int> holds;
+        for (int row = 0; row < framesCount(); ++row)
+            holds.append(frameAt(row).staticState);
+        return holds;
+    }
+    int guidAt(int row) const
+    {
+        return frameAt(row).guid();
+    }
+    /// Lets a batch or a preparation come to its end.
+    bool settle()
+    {
+        return QTest::qWaitFor([this] { return currentAction() == Zum::ActNoAction; });
+    }
+
+    HandTicker &playTicker;
+    HandTicker &rateTicker;
+
+private:
+    TestModel(HandTicker *play, HandTicker *rate)
+        : FramesModel({std::unique_ptr<Ticker>(play), std::unique_ptr<Ticker>(rate)}), playTicker(*play),
+          rateTicker(*rate)
+    {
+        setBatchSliceMs(0);
+        m_rows.setSourceModel(this);
+    }
+
+    RowsOnly m_rows;
+    QAbstractItemModelTester m_tester{&m_rows, QAbstractItemModelTester::FailureReportingMode::QtTest};
+};
+
+/// Collects log lines instead of printing them, for as long as it lives.
+class LogLines
+{
+public:
+    LogLines()
+    {
+        s_lines = this;
+        m_previous = qInstallMessageHandler(&LogLines::receive);
+    }
+    ~LogLines()
+    {
+        qInstallMessageHandler(m_previous);
+        s_lines = nullptr;
+    }
+    QStringList take()
+    {
+        const std::lock_guard lock(m_mutex);
+        return std::exchange(m_texts, {});
+    }
+
+private:
+    static void receive(QtMsgType, const QMessageLogContext &, const QString &text)
+    {
+        const std::lock_guard lock(s_lines->m_mutex);
+        s_lines->m_texts.append(text.trimmed());
+    }
+
+    inline static LogLines *s_lines = nullptr;
+    std::mutex m_mutex;
+    QStringList m_texts;
+    QtMessageHandler m_previous = nullptr;
+};
+
+/// Writes the names of signals into one list, to see their order.
+class SignalOrder : public QObject
+{
+public:
+    template <typename Sender, typename Signal>
+    void watch(Sender *sender, Signal signal, const QString &name)
+    {
+        connect(sender, signal, this, [this, name] { m_names.append(name); });
+    }
+    QStringList take()
+    {
+        return std::exchange(m_names, {});
+    }
+
+private:
+    QStringList m_names;
+};
