@@ -4,7 +4,7 @@
 #include <QtTest>
 
 /// The presets of new projects, and the box that says who the program is.
-class TestProjectPresets : public QObject
+class TestPresetsDialog : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private:
     std::unique_ptr<DialogHost> d;
 };
 
-void TestProjectPresets::init()
+void TestPresetsDialog::init()
 {
     d = std::make_unique<DialogHost>();
     d->window.setProjectPresets(FakeWindow::allPresets());
@@ -41,14 +41,14 @@ void TestProjectPresets::init()
                           {"runningOS", "Debian"}});
 }
 
-void TestProjectPresets::cleanup()
+void TestPresetsDialog::cleanup()
 {
     const QStringList warnings = d->host.warnings();
     d.reset();
     QCOMPARE(warnings, QStringList());
 }
 
-void TestProjectPresets::hasAColumnForEachProportion()
+void TestPresetsDialog::hasAColumnForEachProportion()
 {
     QVERIFY(d->open("ProjectPresets.qml"));
     QCOMPARE(d->texts().mid(0, 5), QStringList({"Project Presets", "16:9", "16:10", "14:9", "4:3"}));
@@ -63,7 +63,7 @@ void TestProjectPresets::hasAColumnForEachProportion()
     QCOMPARE(d->part("presets")->property("count").toInt(), 4 * 2 * 27);
 }
 
-void TestProjectPresets::clickSetsTheFrameAndTheRate()
+void TestPresetsDialog::clickSetsTheFrameAndTheRate()
 {
     d->host.global().setCropAreaProportion(1.5);
     QVERIFY(d->open("ProjectPresets.qml"));
@@ -75,7 +75,7 @@ void TestProjectPresets::clickSetsTheFrameAndTheRate()
     QVERIFY(!d->isOpen());
 }
 
-void TestProjectPresets::keyboardChoosesAPreset()
+void TestPresetsDialog::keyboardChoosesAPreset()
 {
     QVERIFY(d->open("ProjectPresets.qml"));
     d->host.key(Qt::Key_Right);
@@ -88,7 +88,7 @@ void TestProjectPresets::keyboardChoosesAPreset()
     QVERIFY(!d->isOpen());
 }
 
-void TestProjectPresets::reachesTheLastPreset()
+void TestPresetsDialog::reachesTheLastPreset()
 {
     QVERIFY(d->open("ProjectPresets.qml"));
     for (int i = 0; i < 60; ++i)
@@ -99,7 +99,7 @@ void TestProjectPresets::reachesTheLastPreset()
     QCOMPARE(d->frames.timelineFps(), 12.0);
 }
 
-void TestProjectPresets::columnsMayBeOfDifferentLength()
+void TestPresetsDialog::columnsMayBeOfDifferentLength()
 {
     QVariantList some = FakeWindow::allPresets().mid(0, 2);
     some.append(FakeWindow::allPresets().mid(54, 1));
@@ -114,7 +114,7 @@ void TestProjectPresets::columnsMayBeOfDifferentLength()
     QCOMPARE(d->host.global().cropAreaW(), width);
 }
 
-void TestProjectPresets::noPresetsAreNoError()
+void TestPresetsDialog::noPresetsAreNoError()
 {
     d->window.setProjectPresets({});
     QVERIFY(d->open("ProjectPresets.qml"));
@@ -123,7 +123,7 @@ void TestProjectPresets::noPresetsAreNoError()
     QVERIFY(!d->isOpen());
 }
 
-void TestProjectPresets::aboutNamesTheProgram()
+void TestPresetsDialog::aboutNamesTheProgram()
 {
     QVERIFY(d->open("About.qml"));
     const QStringList texts = d->texts();
@@ -135,7 +135,7 @@ void TestProjectPresets::aboutNamesTheProgram()
     QVERIFY(!d->isOpen());
 }
 
-void TestProjectPresets::aboutOpensTheWebsites()
+void TestPresetsDialog::aboutOpensTheWebsites()
 {
     QVERIFY(d->open("About.qml"));
     d->clickText("https://app.example/");
@@ -144,6 +144,6 @@ void TestProjectPresets::aboutOpensTheWebsites()
                                            "openUrlExternally https://vendor.example/"}));
 }
 
-QTEST_MAIN(TestProjectPresets)
+QTEST_MAIN(TestPresetsDialog)
 
-#include "tst_projectpresets.moc"
+#include "tst_presetsdialog.moc"
