@@ -1,11 +1,13 @@
 #include "app/Translations.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
 #include <QProcess>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
@@ -110,6 +112,7 @@ private slots:
     void everyTranslationReachesTheProgram();
     void russianIsSpokenAsLongAsItsOwnerLives();
     void countedTextsFollowTheNumber();
+    void theToolkitsButtonsSpeakRussianToo();
     void aLanguageWithoutFilesIsSilentEnglish();
 
 private:
@@ -409,6 +412,15 @@ void TestTranslations::countedTextsFollowTheNumber()
     QCOMPARE(failed(11), QStringLiteral("Не удалось скопировать или удалить 11 файлов"));
 }
 
+void TestTranslations::theToolkitsButtonsSpeakRussianToo()
+{
+    QObject owner;
+    QVERIFY(translations::install(QStringLiteral("ru_RU"), &owner) > 0);
+    const QDialogButtonBox box(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    QCOMPARE(box.button(QDialogButtonBox::Ok)->text(), QStringLiteral("OK"));
+    QCOMPARE(box.button(QDialogButtonBox::Cancel)->text(), QStringLiteral("Отмена"));
+}
+
 void TestTranslations::aLanguageWithoutFilesIsSilentEnglish()
 {
     static int said = 0;
@@ -426,6 +438,6 @@ void TestTranslations::aLanguageWithoutFilesIsSilentEnglish()
     QCOMPARE(QCoreApplication::translate("TopLine", "Capture"), QStringLiteral("Capture"));
 }
 
-QTEST_GUILESS_MAIN(TestTranslations)
+QTEST_MAIN(TestTranslations)
 
 #include "tst_translations.moc"
