@@ -36,7 +36,9 @@ ProjectPaths::Hooks AppControllers::pathHooks()
 
 ProjectServices AppControllers::projectServices()
 {
-    return {settings(), global, messages, progress, *environment.dialogs, files, recent, {}};
+    ProjectServices services{settings(), global, messages, progress, *environment.dialogs, files, recent};
+    services.clearRobotJob = [this] { robot.setCurrentRobotJob(Zum::NoJob); };
+    return services;
 }
 
 void AppControllers::attachWindow(MainWindow &window)

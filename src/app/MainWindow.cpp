@@ -106,6 +106,8 @@ void MainWindow::connectControllers()
             Qt::UniqueConnection);
     connect(this, &MainWindow::capturingDeviceObjectChanged, this, &MainWindow::updateCurrentDeviceType,
             Qt::UniqueConnection);
+    connect(&c.frames, &FramesModel::changed, &c.lifecycle, &ProjectLifecycle::projectChanged,
+            Qt::UniqueConnection);
     connect(&c.frames, &FramesModel::connectModel, this, &MainWindow::connectModel, Qt::UniqueConnection);
     connect(&c.frames, &FramesModel::disconnectModel, this, &MainWindow::disconnectModel,
             Qt::UniqueConnection);

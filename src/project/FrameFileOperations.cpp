@@ -32,7 +32,7 @@ FrameFileOperations::FrameFileOperations(ThreadOperation &operation, ProjectFram
     m_nextSlice.setSingleShot(true);
     m_nextSlice.setInterval(0);
     connect(&m_nextSlice, &QTimer::timeout, this, &FrameFileOperations::applySlice);
-    connect(&m_checking, &QFutureWatcherBase::finished, this, &FrameFileOperations::takeChunk);
+    connect(&m_checking, &QFutureWatcherBase::finished, this, &FrameFileOperations::applySlice);
     connect(&m_frameCopy, &QFutureWatcherBase::finished, this, &FrameFileOperations::onFramesCopied);
     connect(&m_folderCopy, &QFutureWatcherBase::finished, this, &FrameFileOperations::onFoldersCopied);
     connect(&m_cleaning, &QFutureWatcherBase::finished, this, &FrameFileOperations::onCleanedUp);
@@ -75,26 +75,36 @@ bool FrameFileOperations::addFrames(const QList<ProjectFrame> &frames, const Pro
     m_toAdd = frames;
     m_tree = tree;
     m_frameIndex = 0;
+    m_checkedIndex = 0;
+    m_chunk.clear();
+    m_chunkIndex = 0;
     m_adding = true;
     m_addingCancelled = false;
     m_frames.beginFill();
     checkNextChunk();
+    m_nextSlice.start();
     return true;
 }
 
+// The pool looks at the files of the chunk behind the one that is being added.
 void FrameFileOperations::checkNextChunk()
 {
-    const QList<ProjectFrame> frames = m_toAdd.mid(m_frameIndex, chunkSize);
+    if (m_checkedIndex == m_toAdd.size())
+        return;
+    const QList<ProjectFrame> frames = m_toAdd.mid(m_checkedIndex, chunkSize);
+    m_checkedIndex += frames.size();
     m_checking.setFuture(QtConcurrent::run(checkAll, frames, m_tree));
 }
 
-void FrameFileOperations::takeChunk()
+// False while the pool is still at it.
+bool FrameFileOperations::takeChunk()
 {
-    if (!m_adding)
-        return;
+    if (!m_checking.isFinished())
+        return false;
     m_chunk = m_checking.result();
     m_chunkIndex = 0;
-    applySlice();
+    checkNextChunk();
+    return true;
 }
 
 void FrameFileOperations::applySlice()
@@ -103,12 +113,14 @@ void FrameFileOperations::applySlice()
         return;
     QElapsedTimer time;
     time.start();
-    while (m_chunkIndex < m_chunk.size() && !m_addingCancelled) {
+    while (m_frameIndex < m_toAdd.size() && !m_addingCancelled && time.elapsed() < qMax(1, m_sliceMs)) {
+        if (m_chunkIndex == m_chunk.size() && !takeChunk())
+            break;
         const CheckedFrame &frame = m_chunk.at(m_chunkIndex++);
         ++m_frameIndex;
         m_frames.append(frame);
         FrameFiles::report(frame.missingPaths, m_messages);
-        if (time.elapsed() >= m_sliceMs)
+        if (m_sliceMs == 0)
             break;
     }
     m_progress.setProgressCurrent(int(m_frameIndex));
@@ -116,9 +128,7 @@ void FrameFileOperations::applySlice()
         endAdding(End::Cancelled);
     else if (m_frameIndex == m_toAdd.size())
         endAdding(End::Complete);
-    else if (m_chunkIndex == m_chunk.size())
-        checkNextChunk();
-    else
+    else if (m_chunkIndex < m_chunk.size() || m_checking.isFinished())
         m_nextSlice.start();
 }
 

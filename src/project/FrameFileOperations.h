@@ -59,7 +59,7 @@ public:
     /// end signal comes afterwards.
     void finish();
 
-    /// How long one turn of the event loop may spend on filling the timeline.
+    /// How long one turn of the event loop may spend on filling the timeline; 0 makes it one frame a turn.
     void setSliceMs(int milliseconds)
     {
         m_sliceMs = milliseconds;
@@ -77,7 +77,7 @@ private:
     std::shared_ptr<PoolProgress> newProgress();
     End endPoolWork();
     void checkNextChunk();
-    void takeChunk();
+    bool takeChunk();
     void applySlice();
     void endAdding(End end);
     void onFramesCopied();
@@ -103,6 +103,8 @@ private:
     QList<CheckedFrame> m_chunk;
     qsizetype m_chunkIndex = 0;
     qsizetype m_frameIndex = 0;
+    /// The first frame whose files nobody looks for yet.
+    qsizetype m_checkedIndex = 0;
     int m_sliceMs = 8;
     bool m_adding = false;
     bool m_addingCancelled = false;

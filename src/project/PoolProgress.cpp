@@ -36,7 +36,8 @@ void PoolProgress::show(const QString &action, int total, int current)
         [self = shared_from_this(), action, total, current] {
             if (!self->m_attached)
                 return;
-            self->m_progress.setProgressAction(action);
+            if (!action.isEmpty())
+                self->m_progress.setProgressAction(action);
             self->m_progress.setProgressCurrent(current);
             self->m_progress.setProgressTotal(total);
         },

@@ -21,6 +21,19 @@ using namespace Qt::StringLiterals;
 namespace {
 /// Pixels at the scale 1.
 constexpr QSizeF thumbnailSize(90, 60);
+
+/// Calls `then` on the owner's thread with what the pool came to, unless the owner is gone by then.
+template <typename Result, typename Then>
+void whenDone(const QFuture<Result> &future, QObject *owner, Then then)
+{
+    auto *watcher = new QFutureWatcher<Result>(owner);
+    QObject::connect(watcher, &QFutureWatcherBase::finished, owner, [watcher, then] {
+        watcher->deleteLater();
+        then(watcher->result());
+    });
+    watcher->setFuture(future);
+}
+
 } // namespace
 
 int ProjectLifecycle::openProject(const QString &path)
@@ -222,8 +235,8 @@ void ProjectLifecycle::lookForOrphans()
 {
     if (ProjectCleanup::sharesContentFolder(m_paths.tree()))
         return;
-    auto search = QtConcurrent::run(OrphanImages::find, m_paths.tree(), m_frames.projectFrames());
-    search.then(this, [this, generation = m_generation](const QStringList &names) {
+    const auto search = QtConcurrent::run(OrphanImages::find, m_paths.tree(), m_frames.projectFrames());
+    whenDone(search, this, [this, generation = m_generation](const QStringList &names) {
         if (generation == m_generation && m_projectLoaded && !names.isEmpty())
             offerOrphans(names);
     });
@@ -254,8 +267,8 @@ void ProjectLifecycle::offerOrphans(const QStringList &names)
 void ProjectLifecycle::addOrphans(const QStringList &names)
 {
     const QSize bounds = (thumbnailSize * Zum::dpiScale()).toSize();
-    auto making = QtConcurrent::run(OrphanImages::asFrames, names, m_paths.tree(), bounds);
-    making.then(this, [this, generation = m_generation](const QList<ProjectFrame> &frames) {
+    const auto making = QtConcurrent::run(OrphanImages::asFrames, names, m_paths.tree(), bounds);
+    whenDone(making, this, [this, generation = m_generation](const QList<ProjectFrame> &frames) {
         if (generation != m_generation || !m_projectLoaded)
             return;
         for (const ProjectFrame &frame : frames)

@@ -29,7 +29,9 @@ ProjectFacet::ProjectFacet(std::unique_ptr<AppControllers> controllers) : JobsFa
 void ProjectFacet::connectPaths()
 {
     const ProjectPaths &paths = controllers().paths;
-    connect(&paths, &ProjectPaths::projPathChanged, this, &ProjectFacet::projPathChanged);
+    // The path is also forgotten, which the keeper of the paths does not announce.
+    connect(&controllers().lifecycle, &ProjectLifecycle::projPathChanged, this,
+            &ProjectFacet::projPathChanged);
     connect(&paths, &ProjectPaths::projNameChanged, this, &ProjectFacet::projNameChanged);
     connect(&paths, &ProjectPaths::projDirPathChanged, this, &ProjectFacet::projDirPathChanged);
     connect(&paths, &ProjectPaths::projContntDirPathChanged, this, &ProjectFacet::projContntDirPathChanged);
@@ -49,6 +51,11 @@ bool ProjectFacet::projectLoaded() const
 bool ProjectFacet::allowQuietExit() const
 {
     return controllers().lifecycle.allowQuietExit();
+}
+
+void ProjectFacet::setAllowQuietExit(bool allow)
+{
+    controllers().lifecycle.setAllowQuietExit(allow);
 }
 
 bool ProjectFacet::loadingProject() const
@@ -179,6 +186,21 @@ int ProjectFacet::readProjectXmlFile()
 bool ProjectFacet::saveProjectXmlFile(int saveMode)
 {
     return controllers().lifecycle.saveProjectXmlFile(saveMode);
+}
+
+void ProjectFacet::projectChanged()
+{
+    controllers().lifecycle.projectChanged();
+}
+
+void ProjectFacet::projectSaved()
+{
+    controllers().lifecycle.projectSaved();
+}
+
+void ProjectFacet::autosaveTick()
+{
+    controllers().lifecycle.autosaveTick();
 }
 
 void ProjectFacet::closeProject()

@@ -9,10 +9,11 @@ class ProjectFacet : public JobsFacet
 {
     Q_OBJECT
     Q_PROPERTY(bool projectLoaded READ projectLoaded NOTIFY projLoadedChanged)
-    Q_PROPERTY(bool allowQuietExit READ allowQuietExit NOTIFY allowQuietExitChanged)
+    Q_PROPERTY(bool allowQuietExit READ allowQuietExit WRITE setAllowQuietExit NOTIFY allowQuietExitChanged)
     Q_PROPERTY(bool loadingProject READ loadingProject NOTIFY loadingProjectChanged)
     Q_PROPERTY(bool legacyProject READ legacyProject NOTIFY legacyProjectChanged)
-    Q_PROPERTY(bool performAutosave READ performAutosave WRITE setPerformAutosave NOTIFY performAutosaveChanged)
+    Q_PROPERTY(
+        bool performAutosave READ performAutosave WRITE setPerformAutosave NOTIFY performAutosaveChanged)
     Q_PROPERTY(bool pauseAutosave READ pauseAutosave WRITE setPauseAutosave NOTIFY pauseAutosaveChanged)
     Q_PROPERTY(int autosaveDelay READ autosaveDelay WRITE setAutosaveDelay NOTIFY autosaveDelayChanged)
     Q_PROPERTY(int autosaveDelayMin READ autosaveDelayMin CONSTANT)
@@ -35,6 +36,7 @@ public:
 
     bool projectLoaded() const;
     bool allowQuietExit() const;
+    void setAllowQuietExit(bool allow);
     bool loadingProject() const;
     bool legacyProject() const;
     bool performAutosave() const;
@@ -63,6 +65,10 @@ public slots:
     int projectFileOpen();
     int readProjectXmlFile();
     bool saveProjectXmlFile(int saveMode);
+    void projectChanged();
+    void projectSaved();
+    /// One turn of the autosave timer is over.
+    void autosaveTick();
     void closeProject();
     void renameProject(const QString &newName);
     void stopLoadingProject();
