@@ -88,10 +88,8 @@ void MainWindow::publishContext()
 void MainWindow::connectControllers()
 {
     AppControllers &c = controllers();
-    QClipboard *clipboard = QGuiApplication::clipboard();
-    connect(clipboard, &QClipboard::dataChanged, this, [this, clipboard] {
-        controllers().clipboard.clipboardChanged(clipboard->mimeData(), projectLoaded());
-    });
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &MainWindow::clipboardChanged,
+            Qt::UniqueConnection);
     connect(this, &MainWindow::disconnectModel, &c.global, &WebcamGlobal::disconnectModel,
             Qt::UniqueConnection);
     connect(this, &MainWindow::connectModel, &c.global, &WebcamGlobal::connectModel, Qt::UniqueConnection);
@@ -117,6 +115,10 @@ void MainWindow::connectControllers()
             Qt::UniqueConnection);
     connect(&c.frames, &FramesModel::progressActionChanged, this, &MainWindow::setProgressAction,
             Qt::UniqueConnection);
+    connect(c.quitSequence.get(), &QuitSequence::closingChanged, this, &MainWindow::closingChanged,
+            Qt::UniqueConnection);
+    connect(c.quitSequence.get(), &QuitSequence::closeAttemptsChanged, this,
+            &MainWindow::closeAttemptsChanged, Qt::UniqueConnection);
     connect(&c.lifecycle, &ProjectLifecycle::titleChanged, this, qOverload<>(&MainWindow::setTitle),
             Qt::UniqueConnection);
     connect(&c.lifecycle, &ProjectLifecycle::windowModifiedChanged, this, [this] { setTitle(); });

@@ -15,8 +15,9 @@ bool QuitSequence::attempt()
 bool QuitSequence::mayClose()
 {
     ++m_closeAttempts;
+    emit closeAttemptsChanged();
     if (m_closeAttempts > refusalLimit) {
-        m_closing = true;
+        setClosing();
         return true;
     }
     if (m_closing)
@@ -27,7 +28,7 @@ bool QuitSequence::mayClose()
     }
     m_host.finishOperations();
     m_host.saveWindowState();
-    m_closing = true;
+    setClosing();
     m_host.stopPlayback();
     if (m_host.busy())
         return false;
@@ -37,4 +38,12 @@ bool QuitSequence::mayClose()
         return false;
     }
     return true;
+}
+
+void QuitSequence::setClosing()
+{
+    if (m_closing)
+        return;
+    m_closing = true;
+    emit closingChanged();
 }

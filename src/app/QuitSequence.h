@@ -51,8 +51,13 @@ public:
     /// One attempt to close. True: the close goes through, and leave() has been called.
     bool attempt();
 
+signals:
+    void closingChanged();
+    void closeAttemptsChanged();
+
 private:
     bool mayClose();
+    void setClosing();
 
     Host &m_host;
     bool m_closing = false;

@@ -7,9 +7,11 @@
 class MessagesFacet : public VocabularyFacet
 {
     Q_OBJECT
-    Q_PROPERTY(int progressTotal READ progressTotal NOTIFY progressTotalChanged)
-    Q_PROPERTY(int progressCurrent READ progressCurrent NOTIFY progressCurrentChanged)
-    Q_PROPERTY(QString progressAction READ progressAction NOTIFY progressActionChanged)
+    Q_PROPERTY(int progressTotal READ progressTotal WRITE setProgressTotal NOTIFY progressTotalChanged)
+    Q_PROPERTY(
+        int progressCurrent READ progressCurrent WRITE setProgressCurrent NOTIFY progressCurrentChanged)
+    Q_PROPERTY(
+        QString progressAction READ progressAction WRITE setProgressAction NOTIFY progressActionChanged)
     Q_PROPERTY(
         int robotErrorCount READ robotErrorCount WRITE setRobotErrorCount NOTIFY robotErrorCountChanged)
     Q_PROPERTY(QString errorString READ errorString NOTIFY errorStringChanged)

@@ -113,6 +113,18 @@ int ProjectFacet::currentThreadOperation() const
     return controllers().operation.currentThreadOperation();
 }
 
+QVariantList ProjectFacet::proportions() const
+{
+    const QList<QRectF> &all = morvane::proportions();
+    return {all.cbegin(), all.cend()};
+}
+
+QVariantList ProjectFacet::presetsWidths() const
+{
+    const QList<int> &all = morvane::presetsWidths();
+    return {all.cbegin(), all.cend()};
+}
+
 QVariantList ProjectFacet::projectPresets() const
 {
     return morvane::projectPresets();

@@ -19,6 +19,10 @@ class ProjectFacet : public JobsFacet
     Q_PROPERTY(int autosaveDelayMin READ autosaveDelayMin CONSTANT)
     Q_PROPERTY(int autosaveDelayMax READ autosaveDelayMax CONSTANT)
     Q_PROPERTY(int currentThreadOperation READ currentThreadOperation NOTIFY currentThreadOperationChanged)
+    /// Rectangles with the proportion in x and y.
+    Q_PROPERTY(QVariantList proportions READ proportions CONSTANT)
+    /// Frame widths in units of 8 pixels.
+    Q_PROPERTY(QVariantList presetsWidths READ presetsWidths CONSTANT)
     Q_PROPERTY(QVariantList projectPresets READ projectPresets CONSTANT)
     Q_PROPERTY(QString projPath READ projPath NOTIFY projPathChanged)
     Q_PROPERTY(QString projName READ projName NOTIFY projNameChanged)
@@ -48,6 +52,8 @@ public:
     int autosaveDelayMin() const;
     int autosaveDelayMax() const;
     int currentThreadOperation() const;
+    QVariantList proportions() const;
+    QVariantList presetsWidths() const;
     QVariantList projectPresets() const;
     QString projPath() const;
     QString projName() const;

@@ -2,6 +2,8 @@
 
 #include "app/AppControllers.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QQmlContext>
 #include <QtDebug>
 #include <QUrl>
@@ -206,6 +208,12 @@ QString SettingsFacet::openFileDialog()
 QString SettingsFacet::selectFolderDialog()
 {
     return controllers().files.selectFolderDialog(QString());
+}
+
+void SettingsFacet::clipboardChanged()
+{
+    controllers().clipboard.clipboardChanged(QGuiApplication::clipboard()->mimeData(),
+                                             controllers().lifecycle.projectLoaded());
 }
 
 int SettingsFacet::countClipboardFrames() const

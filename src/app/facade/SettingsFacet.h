@@ -24,7 +24,6 @@ public:
     explicit SettingsFacet(std::unique_ptr<AppControllers> controllers);
 
     QString localeName() const;
-    void setLocaleName(const QString &name);
     QString externalEditor() const;
     QString externalEditorName() const;
     bool openPrevWndwOnStart() const;
@@ -46,6 +45,8 @@ public slots:
     void clearGroupSetting(const QString &groupName);
     void removeGroupSetting(const QString &groupName, const QString &mykey);
 
+    /// Takes effect with the next start. A language that the program does not have is refused.
+    void setLocaleName(const QString &name);
     QString getSystemLocale() const;
     void useSystemLocale();
     /// The font index that stands for "the screen's density decides".
@@ -66,6 +67,8 @@ public slots:
     QString openFileDialog();
     QString selectFolderDialog();
 
+    /// Looks whether there is anything to import on the clipboard now.
+    void clipboardChanged();
     int countClipboardFrames() const;
     void clearClipboardFrames();
 

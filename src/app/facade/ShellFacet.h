@@ -10,8 +10,8 @@ class ShellFacet : public ProjectFacet
     Q_PROPERTY(QString qmlDialogUrl READ qmlDialogUrl WRITE setQmlDialogUrl NOTIFY qmlDialogUrlChanged)
     Q_PROPERTY(
         bool qmlDialogVisible READ qmlDialogVisible WRITE setQmlDialogVisible NOTIFY qmlDialogVisibleChanged)
-    Q_PROPERTY(bool closing READ closing CONSTANT)
-    Q_PROPERTY(int closeAttempts READ closeAttempts CONSTANT)
+    Q_PROPERTY(bool closing READ closing NOTIFY closingChanged)
+    Q_PROPERTY(int closeAttempts READ closeAttempts NOTIFY closeAttemptsChanged)
     Q_PROPERTY(QVariantMap appInfo READ appInfo CONSTANT)
     Q_PROPERTY(QVariantList docs READ docs NOTIFY docsChanged)
 
@@ -44,6 +44,8 @@ signals:
     void qmlDialogUrlChanged();
     void qmlDialogVisibleChanged();
     void docsChanged();
+    void closingChanged();
+    void closeAttemptsChanged();
     void aboutToCloseApp();
 
 private:

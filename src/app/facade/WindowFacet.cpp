@@ -113,5 +113,8 @@ void WindowFacet::resizeEvent(QResizeEvent *event)
 void WindowFacet::setSizes(int snappedDensity, double dpiScale)
 {
     m_currentDpi = snappedDensity;
+    emit currentDpiChanged();
     m_dpiScale = dpiScale;
+    emit dpiScaleChanged();
+    emit scaledThumbSizeChanged();
 }

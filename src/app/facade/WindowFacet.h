@@ -11,11 +11,11 @@ class WindowFacet : public CaptureFacet
     Q_OBJECT
     Q_PROPERTY(QSize windowSize READ windowSize NOTIFY windowSizeChanged)
     Q_PROPERTY(bool isFullscreen READ isFullscreen NOTIFY isFullscreenChanged)
-    Q_PROPERTY(int currentDpi READ currentDpi CONSTANT)
-    Q_PROPERTY(double dpiScale READ dpiScale CONSTANT)
+    Q_PROPERTY(int currentDpi READ currentDpi NOTIFY currentDpiChanged)
+    Q_PROPERTY(double dpiScale READ dpiScale NOTIFY dpiScaleChanged)
     Q_PROPERTY(int idealThreads READ idealThreads CONSTANT)
     Q_PROPERTY(int timelineH READ timelineH WRITE setTimelineH NOTIFY timelineHChanged)
-    Q_PROPERTY(QSizeF scaledThumbSize READ scaledThumbSize CONSTANT)
+    Q_PROPERTY(QSizeF scaledThumbSize READ scaledThumbSize NOTIFY scaledThumbSizeChanged)
 
 public:
     explicit WindowFacet(std::unique_ptr<AppControllers> controllers);
@@ -43,7 +43,10 @@ public slots:
 signals:
     void windowSizeChanged();
     void isFullscreenChanged();
+    void currentDpiChanged();
+    void dpiScaleChanged();
     void timelineHChanged();
+    void scaledThumbSizeChanged();
     void redrawWindow();
     /// A key or the mouse was used.
     void userIsActive();
