@@ -29,6 +29,9 @@ Rectangle {
     }
 
     Scrollbar {
+        anchors.right: parent.right
+        anchors.top: flick.top
+        anchors.bottom: flick.bottom
         flickable: flick
     }
 }

@@ -95,6 +95,9 @@ Item {
         }
 
         Scrollbar {
+            anchors.right: parent.right
+            anchors.top: content.top
+            anchors.bottom: content.bottom
             flickable: content
         }
 

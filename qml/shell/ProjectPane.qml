@@ -30,6 +30,7 @@ Column {
         }
 
         NumberInput4 {
+            width: parent.width
             label: qsTr("Frame width")
             active: MainWindow.projectLoaded
             value: WebcamGlobal.cropAreaW
@@ -40,6 +41,7 @@ Column {
         }
 
         NumberInput4 {
+            width: parent.width
             label: qsTr("Frame height")
             active: MainWindow.projectLoaded
             value: WebcamGlobal.cropAreaH
@@ -58,6 +60,7 @@ Column {
         }
 
         NumberInput5 {
+            width: parent.width
             label: qsTr("Frames per second")
             active: MainWindow.projectLoaded
             value: FramesModel.timelineFps
@@ -69,6 +72,7 @@ Column {
         }
 
         NumberInput4 {
+            width: parent.width
             label: qsTr("Number of the first frame")
             active: MainWindow.projectLoaded
             value: FramesModel.startIndex

@@ -64,15 +64,22 @@ Item {
         WebcamGlobal.flipFlop = Zum.NoFlipFlop;
     }
 
+    // Asks for the name itself: what is bound to it may not have followed yet.
     function enter() {
-        if (capture)
+        switch (tab) {
+        case "captureUIisOn":
             enterCapture();
-        else if (timing)
+            break;
+        case "timingUIisOn":
             enterTiming();
-        else if (video)
+            break;
+        case "playbackUIisOn":
             enterVideo();
-        else if (docs)
+            break;
+        case "docsUIisOn":
             enterDocs();
+            break;
+        }
     }
 
     visible: false

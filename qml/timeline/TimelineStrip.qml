@@ -32,6 +32,9 @@ Item {
     Scrollbar {
         id: scroll
 
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
         flickable: view
         vertical: false
     }

@@ -1,5 +1,6 @@
 #include "app/AppControllers.h"
 #include "app/CommandLine.h"
+#include "app/FirstFrame.h"
 #include "app/MainWindow.h"
 #include "app/SplashScreen.h"
 #include "app/Translations.h"
@@ -45,6 +46,7 @@ int main(int argc, char *argv[])
     {
         MainWindow window(std::make_unique<AppControllers>(std::move(environment)),
                           QCoreApplication::arguments());
+        firstframe::endAfter(window);
         window.show();
         QTimer::singleShot(1500, &splash, &QWidget::close);
         result = QApplication::exec();

@@ -33,8 +33,8 @@ ShellWindow::ShellWindow(const Options &options)
 ShellWindow::~ShellWindow()
 {
     m_window.reset();
-    qInstallMessageHandler(s_before);
-    s_warnings = nullptr;
+    if (s_warnings == &m_warnings)
+        s_warnings = nullptr;
 }
 
 void ShellWindow::build(const Options &options)
@@ -44,12 +44,15 @@ void ShellWindow::build(const Options &options)
         return true;
     }();
     Q_UNUSED(registered)
+    // Each test function brings the test library's own handler back, so ours goes in front of it each time.
+    if (const QtMessageHandler before = qInstallMessageHandler(keepSceneWarnings);
+        before != keepSceneWarnings)
+        s_before = before;
     s_warnings = &m_warnings;
-    s_before = qInstallMessageHandler(keepSceneWarnings);
 
     AppEnvironment environment;
-    const QString path =
-        options.settingsPath.isEmpty() ? m_folder.filePath(QStringLiteral("settings.ini")) : options.settingsPath;
+    const QString path = options.settingsPath.isEmpty() ? m_folder.filePath(QStringLiteral("settings.ini"))
+                                                        : options.settingsPath;
     environment.settings = std::make_unique<Settings>(path);
     for (auto it = options.settings.cbegin(); it != options.settings.cend(); ++it)
         environment.settings->setValue(it.key(), it.value());
@@ -59,8 +62,12 @@ void ShellWindow::build(const Options &options)
     m_desktop = desktop.get();
     environment.dialogs = std::move(dialogs);
     environment.desktop = std::move(desktop);
-    environment.now = [] { return QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26)); };
-    environment.quit = [this] { ++m_quits; };
+    environment.now = [] {
+        return QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26));
+    };
+    environment.quit = [this] {
+        ++m_quits;
+    };
     environment.systemLocale = options.locale;
     environment.logicalDpi = options.logicalDpi;
 
@@ -76,7 +83,7 @@ bool ShellWindow::createProject(const QString &name)
 {
     m_dialogs->pathAnswers.append(m_folder.filePath(name + QStringLiteral(".kzfx")));
     return m_window->saveProjectXmlFile(Zum::NewProject)
-        && QTest::qWaitFor([this] { return m_window->projectLoaded(); });
+           && QTest::qWaitFor([this] { return m_window->projectLoaded(); });
 }
 
 void ShellWindow::addFrames(int count)

@@ -9,8 +9,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// The whole program in a window of its own, with settings in a folder that goes with it, and dialogs, desktop,
-/// clock and the way out that a test controls.
+/// The whole program in a window of its own, with settings in a folder that goes with it, and dialogs,
+/// desktop, clock and the way out that a test controls.
 class ShellWindow
 {
 public:
@@ -77,7 +77,8 @@ public:
     bool createProject(const QString &name = QStringLiteral("film"));
     /// Adds that many frames to the open project; their picture files need not exist.
     void addFrames(int count);
-    /// The first item of the scene, in depth-first order, for which the property has the value; null for none.
+    /// The first item of the scene, in depth-first order, for which the property has the value; null for
+    /// none.
     QQuickItem *findItem(const char *property, const QVariant &value, QQuickItem *from = nullptr) const;
     /// Clicks into the middle of a visible item.
     void click(QQuickItem *item, Qt::MouseButton button = Qt::LeftButton);

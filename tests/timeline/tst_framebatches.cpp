@@ -29,7 +29,8 @@ private slots:
     void leavesTheFramesWhereNothingIsPointedAt();
     void duplicatesTheSelectionBehindThePointedFrame();
     void duplicatesTheSelectionInPlaceUnderAReset();
-    void ignoresAnActionThatIsNoChain();
+    void labelsActionsThatAreNoChain_data();
+    void labelsActionsThatAreNoChain();
 
     void clearsTheSelectedFrames_data();
     void clearsTheSelectedFrames();
@@ -354,12 +355,31 @@ void tst_FrameBatches::duplicatesTheSelectionInPlaceUnderAReset()
     QCOMPARE(model.undoCount(), 4);
 }
 
-void tst_FrameBatches::ignoresAnActionThatIsNoChain()
+void tst_FrameBatches::labelsActionsThatAreNoChain_data()
 {
+    QTest::addColumn<int>("action");
+    QTest::addColumn<QString>("label");
+    QTest::newRow("none") << int(Zum::ActNoAction) << "";
+    QTest::newRow("select") << int(Zum::ActSelect) << "Select";
+    QTest::newRow("dismiss") << int(Zum::ActDismiss) << "Dismiss";
+    QTest::newRow("holds") << int(Zum::ActSearchStaticness) << "Search for staticness";
+    QTest::newRow("playback") << int(Zum::ActSearchHiddenFrames) << "Preparing playback";
+    QTest::newRow("mirror") << int(Zum::ActSetMirrored) << "";
+}
+
+void tst_FrameBatches::labelsActionsThatAreNoChain()
+{
+    QFETCH(int, action);
     TestModel model(4);
-    model.selectAll();
-    model.actionOnSelectedFrames(Zum::ActSetMirrored);
-    QCOMPARE(model.currentAction(), 0);
+    model.addRangeToGroup(1, 2);
+    model.actionOnSelectedFrames(action);
+    QCOMPARE(model.currentAction(), action);
+    QTEST(model.progressAction(), "label");
+    QVERIFY(model.settle());
+    QCOMPARE(model.names(), QStringList({"c0", "c1", "c2", "c3"}));
+    QCOMPARE(model.frameAt(1).mirrored, action == Zum::ActSetMirrored);
+    QCOMPARE(model.frameAt(1).ingroup,
+             action != Zum::ActSelect && action != Zum::ActDismiss && action != Zum::ActSearchStaticness);
 }
 
 void tst_FrameBatches::clearsTheSelectedFrames_data()

@@ -42,6 +42,7 @@ private slots:
     void ignoresABadPointedGuid();
     void refreshesTheCurrentStringsInOrder();
     void sharesTheCurrentNamesWithTheCaptureSide();
+    void showsNoImageWithoutFrames();
     void readsFalseForAddingWhileThereAreNoFrames();
     void keepsTheNumberOfCopiesInItsLimits();
     void marksTheProjectDirtyByTheRightSettings();
@@ -571,6 +572,16 @@ void tst_FramesModel::sharesTheCurrentNamesWithTheCaptureSide()
     model.setData(model.index(1), "r1", Zum::RefFull);
     model.setCurrentIndex(1);
     QCOMPARE(CurrentImageNames::reference(), QString("r1"));
+}
+
+void tst_FramesModel::showsNoImageWithoutFrames()
+{
+    TestModel model(1);
+    QCOMPARE(model.currentCaptured(), QString("c0"));
+    model.removeSingleFrame(0);
+    QCOMPARE(model.currentCaptured(), QString());
+    QVERIFY(!model.hasCaptured());
+    QCOMPARE(CurrentImageNames::captured(), QString());
 }
 
 void tst_FramesModel::readsFalseForAddingWhileThereAreNoFrames()

@@ -32,24 +32,31 @@ void TestScene::everyFileOfTheSceneCompiles_data()
     QTest::addColumn<QString>("file");
     const QStringList files = QDir(QStringLiteral(":/")).entryList({QStringLiteral("*.qml")});
     QVERIFY(files.size() > 50);
-    for (const QString &file : files)
+    const QStringList singletons{QStringLiteral("FocusHome.qml"), QStringLiteral("Theme.qml"),
+                                 QStringLiteral("ToolTips.qml")};
+    for (const QString &file : files) {
+        // The engine makes these itself, the first time that another file names them.
+        if (singletons.contains(file))
+            continue;
         QTest::newRow(qPrintable(file)) << file;
+    }
 }
 
 void TestScene::everyFileOfTheSceneCompiles()
 {
     QFETCH(QString, file);
-    static ShellWindow shell;
-    QQmlComponent component(shell.window().engine(), QUrl(QStringLiteral("qrc:/") + file));
+    QQmlEngine engine;
+    QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/") + file));
     QVERIFY2(component.isReady(), qPrintable(component.errorString()));
 }
 
 void TestScene::everyTabAndFormShowsWithoutAWarning()
 {
     ShellWindow shell;
-    for (const char *state : {"captureUIisOn", "captureUIisOn_compacted", "captureUIisOn_maximized", "timingUIisOn",
-                              "timingUIisOn_compacted", "timingUIisOn_maximized", "playbackUIisOn",
-                              "playbackUIisOn_compacted", "playbackUIisOn_maximized", "docsUIisOn", "captureUIisOn"}) {
+    for (const char *state :
+         {"captureUIisOn", "captureUIisOn_compacted", "captureUIisOn_maximized", "timingUIisOn",
+          "timingUIisOn_compacted", "timingUIisOn_maximized", "playbackUIisOn", "playbackUIisOn_compacted",
+          "playbackUIisOn_maximized", "docsUIisOn", "captureUIisOn"}) {
         shell.global().setMainTabsState(QString::fromLatin1(state));
         QVERIFY(!shell.window().grabWindow().isNull());
     }

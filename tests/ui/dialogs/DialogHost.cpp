@@ -1,0 +1,203 @@
+#include "ui/dialogs/DialogHost.h"
+
+#include <QQmlContext>
+#include <QtTest>
+
+namespace {
+
+const char *const scene = R"(
+SceneProject {
+    id: appWindow
+
+    readonly property alias robotMessgModel: messages.robotMessgModel
+    readonly property alias dialog: dialogLayer
+
+    function rescale() {}
+    function repaint() {}
+    function projectIsLoaded() {}
+    function reloadCapturingDevice() {}
+
+    anchors.fill: parent
+    Component.onCompleted: {
+        FocusHome.home = keyHandler
+        keyHandler.forceActiveFocus()
+    }
+
+    MessageRouter { id: messages }
+    RootConnections { scene: appWindow; keyHandler: keyHandler }
+    Dialog { id: dialogLayer; objectName: "dialogLayer"; anchors.fill: parent }
+    KeyShortcuts { id: keyHandler; objectName: "keyHandler"; scene: appWindow }
+}
+)";
+
+template <typename Visit>
+void visitShown(QQuickItem *item, const Visit &visit)
+{
+    if (!item || !item->isVisible())
+        return;
+    visit(item);
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children)
+        visitShown(child, visit);
+}
+
+bool isText(const QQuickItem *item)
+{
+    return item->inherits("QQuickText") && !item->property("text").toString().isEmpty();
+}
+
+} // namespace
+
+LongTexts::LongTexts(bool wanted)
+{
+    if (wanted)
+        QCoreApplication::installTranslator(this);
+}
+
+bool LongTexts::isEmpty() const
+{
+    return false;
+}
+
+QString LongTexts::translate(const char *, const char *sourceText, const char *, int) const
+{
+    const QString text = QString::fromUtf8(sourceText);
+    // The longest word grows, as it does in languages that put words together.
+    QStringList words = text.split(' ');
+    qsizetype longest = 0;
+    for (qsizetype i = 0; i < words.size(); ++i) {
+        if (words[i].size() > words[longest].size() && !words[i].contains('%'))
+            longest = i;
+    }
+    const qsizetype wanted = (text.size() + 2) / 3;
+    words[longest] += QStringLiteral("ывающийсянаряду").left(wanted);
+    return words.join(' ');
+}
+
+DialogHost::DialogHost(int fontRow, QSize windowSize)
+    : host(fontRow, windowSize), window(filePath("settings.ini"), host.global())
+{
+    QQmlContext *context = host.window().rootContext();
+    context->setContextProperty("MainWindow", &window);
+    context->setContextProperty("FramesModel", &frames);
+    context->setContextProperty("CurvesModel", &curves);
+    host.load(scene);
+}
+
+DialogHost::~DialogHost()
+{
+    host.window().setSource(QUrl());
+}
+
+QQuickItem *DialogHost::open(const QString &fileName)
+{
+    window.setQmlDialogUrl(fileName);
+    QQuickItem *opened = dialog();
+    if (opened)
+        QCoreApplication::processEvents();
+    return opened;
+}
+
+void DialogHost::close()
+{
+    QMetaObject::invokeMethod(host.item("dialogLayer"), "close");
+}
+
+QQuickItem *DialogHost::dialog() const
+{
+    const QQuickItem *layer = host.item("dialogLayer");
+    return layer ? layer->property("item").value<QQuickItem *>() : nullptr;
+}
+
+bool DialogHost::isOpen() const
+{
+    return dialog() != nullptr;
+}
+
+QQuickItem *DialogHost::part(const QString &objectName) const
+{
+    QQuickItem *found = nullptr;
+    visitShown(dialog(), [&](QQuickItem *item) {
+        if (!found && item->objectName() == objectName)
+            found = item;
+    });
+    return found;
+}
+
+QQuickItem *DialogHost::editor(const QString &partName) const
+{
+    QQuickItem *found = nullptr;
+    visitShown(part(partName), [&](QQuickItem *item) {
+        if (item->inherits("QQuickTextInput"))
+            found = item;
+    });
+    return found;
+}
+
+QStringList DialogHost::texts() const
+{
+    QStringList all;
+    visitShown(dialog(), [&](QQuickItem *item) {
+        if (isText(item))
+            all.append(item->property("text").toString());
+    });
+    return all;
+}
+
+void DialogHost::scrollTo(QQuickItem *item)
+{
+    QMetaObject::invokeMethod(dialog(), "reveal", Q_ARG(QVariant, QVariant::fromValue(item)));
+}
+
+void DialogHost::click(QQuickItem *item)
+{
+    QVERIFY(item);
+    scrollTo(item);
+    host.click(item);
+}
+
+void DialogHost::click(const QString &objectName)
+{
+    QQuickItem *item = part(objectName);
+    QVERIFY2(item, qPrintable("No part " + objectName));
+    click(item);
+}
+
+QQuickItem *DialogHost::textItem(const QString &text, const QString &partName) const
+{
+    QQuickItem *found = nullptr;
+    visitShown(partName.isEmpty() ? dialog() : part(partName), [&](QQuickItem *item) {
+        if (!found && isText(item) && item->property("text").toString() == text)
+            found = item;
+    });
+    return found;
+}
+
+void DialogHost::clickText(const QString &text)
+{
+    QQuickItem *item = textItem(text);
+    QVERIFY2(item, qPrintable("No text " + text));
+    click(item);
+}
+
+QStringList DialogHost::textsOutside() const
+{
+    QStringList outside;
+    const QQuickItem *box = dialog();
+    const QRectF shown = box->mapRectToScene(box->boundingRect());
+    const QSizeF size = host.root()->size();
+    visitShown(dialog(), [&](QQuickItem *item) {
+        if (!isText(item))
+            return;
+        const QRectF area = item->mapRectToScene({0, 0, item->property("contentWidth").toReal(), 1});
+        if (area.left() < shown.left() - 0.5 || area.right() > shown.right() + 0.5 || shown.left() < 0
+            || shown.right() > size.width() || shown.top() < 0 || shown.bottom() > size.height())
+            outside.append(item->property("text").toString());
+    });
+    return outside;
+}
+
+QString DialogHost::filePath(const QString &name) const
+{
+    return m_folder.filePath(name);
+}
