@@ -10,13 +10,10 @@ namespace {
 
 QString pathOf(const QUrl &url)
 {
+    if (url.isLocalFile())
+        return url.toLocalFile();
     static const QRegularExpression prefix(QStringLiteral("^(file:/{2,3})|(qrc:/{2})|(http:/{2})"));
-    QString path = url.toString(QUrl::FullyDecoded);
-    path.remove(prefix);
-    // The prefix of three slashes takes the one along that an absolute path begins with here.
-    if (url.isLocalFile() && !QFileInfo(path).isAbsolute())
-        path.prepend(QLatin1Char('/'));
-    return path;
+    return url.toString().remove(prefix);
 }
 
 } // namespace
