@@ -11,6 +11,8 @@
 
 #include <cstdio>
 #include <QApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QScreen>
 #include <QTimer>
 
@@ -31,8 +33,12 @@ int main(int argc, char *argv[])
     auto settings = std::make_unique<Settings>();
     const QString locale = LocaleChoice::startLocale(*settings, LocaleChoice::systemLocaleName());
     typeregistry::registerTypes();
+    // The scene's files are read and resolved in the engine's own thread while the rest of the start goes on;
+    // the window then finds them ready.
+    QQmlEngine engine;
+    const QQmlComponent scene(&engine, QUrl(MainWindow::sceneUrl), QQmlComponent::Asynchronous);
 
-    AppEnvironment environment = AppEnvironment::system(std::move(settings));
+    AppEnvironment environment = AppEnvironment::system(engine, std::move(settings));
     SplashScreen splash(ScreenDensity::snapped(environment.logicalDpi));
     splash.show();
     QCoreApplication::processEvents();
