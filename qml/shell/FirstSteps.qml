@@ -1,44 +1,50 @@
 import QtQuick
 
 // What a view shows while it has no picture: without a project, the buttons that lead to one.
-Item {
+Loader {
     id: firstSteps
 
     required property var scene
     property string text
     property string openText
 
-    EmptyState {
-        anchors.fill: parent
-        visible: !MainWindow.projectLoaded
-        icon: "svgicons/film.svg"
-        title: qsTr("No project")
-        text: firstSteps.text
+    sourceComponent: MainWindow.projectLoaded ? projectOpen : noProject
 
-        TextButton {
-            text: qsTr("Create New Project")
-            icon: "svgicons/new-project.svg"
-            onClicked: firstSteps.scene.createNewProject()
-        }
+    Component {
+        id: noProject
 
-        TextButton {
-            text: qsTr("Open Project")
-            icon: "svgicons/open.svg"
-            onClicked: firstSteps.scene.openProject()
-        }
+        EmptyState {
+            icon: "svgicons/film.svg"
+            title: qsTr("No project")
+            text: firstSteps.text
 
-        TextButton {
-            text: qsTr("Recent Projects")
-            icon: "svgicons/recent.svg"
-            onClicked: firstSteps.scene.lastProjects()
+            TextButton {
+                text: qsTr("Create New Project")
+                icon: "svgicons/new-project.svg"
+                onClicked: firstSteps.scene.createNewProject()
+            }
+
+            TextButton {
+                text: qsTr("Open Project")
+                icon: "svgicons/open.svg"
+                onClicked: firstSteps.scene.openProject()
+            }
+
+            TextButton {
+                text: qsTr("Recent Projects")
+                icon: "svgicons/recent.svg"
+                onClicked: firstSteps.scene.lastProjects()
+            }
         }
     }
 
-    EmptyState {
-        anchors.fill: parent
-        visible: MainWindow.projectLoaded
-        icon: "svgicons/image.svg"
-        title: MainWindow.projName
-        text: firstSteps.openText
+    Component {
+        id: projectOpen
+
+        EmptyState {
+            icon: "svgicons/image.svg"
+            title: MainWindow.projName
+            text: firstSteps.openText
+        }
     }
 }

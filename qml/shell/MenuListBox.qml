@@ -5,29 +5,36 @@ ButtonDropPanel {
     id: menuListBox
 
     required property var scene
+    property bool wanted: false
 
     icon: "svgicons/menu.svg"
     toolTip: qsTr("Main menu")
+    onOpenedChanged: {
+        if (opened)
+            wanted = true;
+    }
 
-    MenuList {
-        id: menu
-
-        model: [
-            { text: qsTr("Create New Project"), icon: "svgicons/new-project.svg", shortcut: "Ctrl+N",
-                action: () => menuListBox.scene.createNewProject() },
-            { text: qsTr("Open Project"), icon: "svgicons/open.svg", shortcut: "Ctrl+O",
-                action: () => menuListBox.scene.openProject() },
-            { text: qsTr("Recent Projects"), icon: "svgicons/recent.svg", shortcut: "F3",
-                action: () => menuListBox.scene.lastProjects() },
-            { text: qsTr("Save Project"), icon: "svgicons/save.svg", shortcut: "Ctrl+S",
-                action: () => menuListBox.scene.saveProject() },
-            { text: qsTr("Save Project As"), icon: "svgicons/save-as.svg", shortcut: "",
-                action: () => menuListBox.scene.saveProjectAs() },
-            { text: qsTr("Clear Settings"), icon: "svgicons/clear.svg", shortcut: "",
-                action: () => MainWindow.clearSettings() },
-            { text: qsTr("Quit"), icon: "svgicons/quit.svg", shortcut: "Ctrl+Q",
-                action: () => MainWindow.quit() }
-        ]
-        onChosen: WebcamGlobal.globalDismiss()
+    // Made when it is first opened.
+    Loader {
+        active: menuListBox.wanted
+        sourceComponent: MenuList {
+            model: [
+                { text: qsTr("Create New Project"), icon: "svgicons/new-project.svg", shortcut: "Ctrl+N",
+                    action: () => menuListBox.scene.createNewProject() },
+                { text: qsTr("Open Project"), icon: "svgicons/open.svg", shortcut: "Ctrl+O",
+                    action: () => menuListBox.scene.openProject() },
+                { text: qsTr("Recent Projects"), icon: "svgicons/recent.svg", shortcut: "F3",
+                    action: () => menuListBox.scene.lastProjects() },
+                { text: qsTr("Save Project"), icon: "svgicons/save.svg", shortcut: "Ctrl+S",
+                    action: () => menuListBox.scene.saveProject() },
+                { text: qsTr("Save Project As"), icon: "svgicons/save-as.svg", shortcut: "",
+                    action: () => menuListBox.scene.saveProjectAs() },
+                { text: qsTr("Clear Settings"), icon: "svgicons/clear.svg", shortcut: "",
+                    action: () => MainWindow.clearSettings() },
+                { text: qsTr("Quit"), icon: "svgicons/quit.svg", shortcut: "Ctrl+Q",
+                    action: () => MainWindow.quit() }
+            ]
+            onChosen: WebcamGlobal.globalDismiss()
+        }
     }
 }

@@ -9,33 +9,39 @@ Item {
 
     clip: true
 
-    FirstSteps {
+    Loader {
         id: displayContainer
 
         anchors.fill: parent
-        visible: WebcamGlobal.currentActiveTab === Zum.CaptureTab
-        scene: screenArea.scene
-        text: qsTr("Frames that are captured go into a project: one file and a folder beside it.")
-        openText: qsTr("The project is ready. This version cannot connect a camera yet.")
+        active: WebcamGlobal.currentActiveTab === Zum.CaptureTab
+        sourceComponent: FirstSteps {
+            scene: screenArea.scene
+            text: qsTr("Frames that are captured go into a project: one file and a folder beside it.")
+            openText: qsTr("The project is ready. This version cannot connect a camera yet.")
+        }
     }
 
-    FirstSteps {
+    Loader {
         id: ramPreviewContainer
 
         anchors.fill: parent
-        visible: WebcamGlobal.currentActiveTab === Zum.TimingTab
-        scene: screenArea.scene
-        text: qsTr("The timing of frames is set in a project.")
-        openText: qsTr("This version cannot show the pictures of the timeline yet.")
+        active: WebcamGlobal.currentActiveTab === Zum.TimingTab
+        sourceComponent: FirstSteps {
+            scene: screenArea.scene
+            text: qsTr("The timing of frames is set in a project.")
+            openText: qsTr("This version cannot show the pictures of the timeline yet.")
+        }
     }
 
-    EmptyState {
+    Loader {
         id: videoPreviewContainer
 
         anchors.fill: parent
-        visible: WebcamGlobal.currentActiveTab === Zum.VideoTab
-        icon: "svgicons/video.svg"
-        title: qsTr("No video")
-        text: qsTr("This version cannot play videos yet.")
+        active: WebcamGlobal.currentActiveTab === Zum.VideoTab
+        sourceComponent: EmptyState {
+            icon: "svgicons/video.svg"
+            title: qsTr("No video")
+            text: qsTr("This version cannot play videos yet.")
+        }
     }
 }
