@@ -64,14 +64,15 @@ Item {
         WebcamGlobal.flipFlop = Zum.NoFlipFlop;
     }
 
+    // Goes by the name of the tab: what is bound to it may not have followed yet.
     function enter() {
-        if (capture)
+        if (tab === "captureUIisOn")
             enterCapture();
-        else if (timing)
+        else if (tab === "timingUIisOn")
             enterTiming();
-        else if (video)
+        else if (tab === "playbackUIisOn")
             enterVideo();
-        else if (docs)
+        else if (tab === "docsUIisOn")
             enterDocs();
     }
 
