@@ -2,7 +2,9 @@
 
 #include "app/TypeRegistry.h"
 
+#include <QQmlContext>
 #include <QQmlEngine>
+#include <QQmlExpression>
 #include <QTest>
 
 namespace {
@@ -16,6 +18,15 @@ void keepSceneWarnings(QtMsgType type, const QMessageLogContext &context, const 
     if (s_warnings != nullptr && type == QtWarningMsg && text.contains(QLatin1String("qrc:/")))
         s_warnings->append(text);
     s_before(type, context, text);
+}
+
+QVariant evaluated(QQuickItem *scope, const QString &expression)
+{
+    QQmlExpression asked(qmlContext(scope), scope, expression);
+    const QVariant value = asked.evaluate();
+    if (asked.hasError())
+        QTest::qFail(qPrintable(asked.error().toString()), __FILE__, __LINE__);
+    return value;
 }
 
 } // namespace
@@ -45,13 +56,14 @@ void ShellWindow::build(const Options &options)
     }();
     Q_UNUSED(registered)
     // Each test function brings the test library's own handler back, so ours goes in front of it each time.
-    if (const QtMessageHandler before = qInstallMessageHandler(keepSceneWarnings); before != keepSceneWarnings)
+    if (const QtMessageHandler before = qInstallMessageHandler(keepSceneWarnings);
+        before != keepSceneWarnings)
         s_before = before;
     s_warnings = &m_warnings;
 
     AppEnvironment environment;
-    const QString path =
-        options.settingsPath.isEmpty() ? m_folder.filePath(QStringLiteral("settings.ini")) : options.settingsPath;
+    const QString path = options.settingsPath.isEmpty() ? m_folder.filePath(QStringLiteral("settings.ini"))
+                                                        : options.settingsPath;
     environment.settings = std::make_unique<Settings>(path);
     for (auto it = options.settings.cbegin(); it != options.settings.cend(); ++it)
         environment.settings->setValue(it.key(), it.value());
@@ -61,14 +73,19 @@ void ShellWindow::build(const Options &options)
     m_desktop = desktop.get();
     environment.dialogs = std::move(dialogs);
     environment.desktop = std::move(desktop);
-    environment.now = [] { return QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26)); };
-    environment.quit = [this] { ++m_quits; };
+    environment.now = [] {
+        return QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26));
+    };
+    environment.quit = [this] {
+        ++m_quits;
+    };
     environment.systemLocale = options.locale;
     environment.logicalDpi = options.logicalDpi;
 
     m_window = std::make_unique<MainWindow>(std::make_unique<AppControllers>(std::move(environment)),
                                             options.arguments);
-    m_window->resize(options.size);
+    if (options.size.isValid())
+        m_window->resize(options.size);
     m_window->show();
     m_window->requestActivate();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
@@ -78,7 +95,7 @@ bool ShellWindow::createProject(const QString &name)
 {
     m_dialogs->pathAnswers.append(m_folder.filePath(name + QStringLiteral(".kzfx")));
     return m_window->saveProjectXmlFile(Zum::NewProject)
-        && QTest::qWaitFor([this] { return m_window->projectLoaded(); });
+           && QTest::qWaitFor([this] { return m_window->projectLoaded(); });
 }
 
 void ShellWindow::addFrames(int count)
@@ -98,6 +115,39 @@ QQuickItem *ShellWindow::findItem(const char *property, const QVariant &value, Q
             return found;
     }
     return nullptr;
+}
+
+QVariant ShellWindow::evaluate(const QString &expression) const
+{
+    return evaluated(m_window->rootObject(), expression);
+}
+
+QVariant ShellWindow::evaluateInside(QQuickItem *item, const QString &expression) const
+{
+    return evaluated(item->childItems().constFirst(), expression);
+}
+
+QQuickItem *ShellWindow::item(const QString &id) const
+{
+    return evaluate(id).value<QQuickItem *>();
+}
+
+QObject *ShellWindow::timer(int intervalMs) const
+{
+    QList<QObject *> found;
+    const QList<QObject *> all = m_window->rootObject()->findChildren<QObject *>();
+    for (QObject *object : all) {
+        if (object->inherits("QQmlTimer") && object->property("interval") == intervalMs)
+            found.append(object);
+    }
+    return found.size() == 1 ? found.constFirst() : nullptr;
+}
+
+QStringList ShellWindow::messages() const
+{
+    return evaluate(QStringLiteral("Array.from({length: messagesModel.count}, "
+                                   "(_, i) => messagesModel.get(i).text)"))
+        .toStringList();
 }
 
 void ShellWindow::click(QQuickItem *item, Qt::MouseButton button)

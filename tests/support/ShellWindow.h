@@ -9,8 +9,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// The whole program in a window of its own, with settings in a folder that goes with it, and dialogs, desktop,
-/// clock and the way out that a test controls.
+/// The whole program in a window of its own, with settings in a folder that goes with it, and dialogs,
+/// desktop, clock and the way out that a test controls.
 class ShellWindow
 {
 public:
@@ -20,6 +20,7 @@ public:
         QString locale = QStringLiteral("en_US");
         /// Written to the settings before the window is made.
         QVariantMap settings;
+        /// Invalid to leave the window as the program makes it.
         QSize size{1280, 760};
         int logicalDpi = 96;
         /// A settings file to use instead of a fresh one.
@@ -77,8 +78,19 @@ public:
     bool createProject(const QString &name = QStringLiteral("film"));
     /// Adds that many frames to the open project; their picture files need not exist.
     void addFrames(int count);
-    /// The first item of the scene, in depth-first order, for which the property has the value; null for none.
+    /// The first item of the scene, in depth-first order, for which the property has the value; null for
+    /// none.
     QQuickItem *findItem(const char *property, const QVariant &value, QQuickItem *from = nullptr) const;
+    /// What an expression of the scene gives, with the names that the scene's root file knows.
+    QVariant evaluate(const QString &expression) const;
+    /// The same with the names that the file of this item's own children knows.
+    QVariant evaluateInside(QQuickItem *item, const QString &expression) const;
+    /// The item of that id in the scene's root file.
+    QQuickItem *item(const QString &id) const;
+    /// The scene's one timer of that interval; null for none or several.
+    QObject *timer(int intervalMs) const;
+    /// The texts of the message list, the newest first.
+    QStringList messages() const;
     /// Clicks into the middle of a visible item.
     void click(QQuickItem *item, Qt::MouseButton button = Qt::LeftButton);
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
