@@ -5,6 +5,7 @@
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQmlExpression>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace {
@@ -150,9 +151,17 @@ QStringList ShellWindow::messages() const
         .toStringList();
 }
 
+bool ShellWindow::settle() const
+{
+    QSignalSpy frames(m_window.get(), &QQuickWindow::frameSwapped);
+    m_window->update();
+    return frames.wait(2000);
+}
+
 void ShellWindow::click(QQuickItem *item, Qt::MouseButton button)
 {
     QVERIFY(item != nullptr);
+    QVERIFY(settle());
     const QPointF middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
     QTest::mouseClick(m_window.get(), button, Qt::NoModifier, middle.toPoint());
 }

@@ -91,7 +91,9 @@ public:
     QObject *timer(int intervalMs) const;
     /// The texts of the message list, the newest first.
     QStringList messages() const;
-    /// Clicks into the middle of a visible item.
+    /// Waits for the next frame: only then do things stand where they belong after a change.
+    bool settle() const;
+    /// Clicks into the middle of a visible item, once it stands where it belongs.
     void click(QQuickItem *item, Qt::MouseButton button = Qt::LeftButton);
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
