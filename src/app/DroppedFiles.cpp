@@ -10,13 +10,11 @@ namespace {
 
 QString pathOf(const QUrl &url)
 {
-    static const QRegularExpression prefix(QStringLiteral("^(file:/{2,3})|(qrc:/{2})|(http:/{2})"));
-    QString path = url.toString(QUrl::FullyDecoded);
-    path.remove(prefix);
-    // The prefix of three slashes takes the one along that an absolute path begins with here.
-    if (url.isLocalFile() && !QFileInfo(path).isAbsolute())
-        path.prepend(QLatin1Char('/'));
-    return path;
+    static const QRegularExpression prefix(QStringLiteral("^(qrc:/{2})|(http:/{2})"));
+    // Whole addresses keep what would be ambiguous in them encoded; a path has nothing of that kind.
+    if (url.isLocalFile())
+        return url.toLocalFile();
+    return url.toString().remove(prefix);
 }
 
 } // namespace
