@@ -87,6 +87,8 @@ void ShellWindow::build(const Options &options)
                                             options.arguments);
     if (options.size.isValid())
         m_window->resize(options.size);
+    if (!options.shown)
+        return;
     m_window->show();
     m_window->requestActivate();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));

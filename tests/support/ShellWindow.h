@@ -23,6 +23,7 @@ public:
         /// Invalid to leave the window as the program makes it.
         QSize size{1280, 760};
         int logicalDpi = 96;
+        bool shown = true;
         /// A settings file to use instead of a fresh one.
         QString settingsPath;
     };
