@@ -89,11 +89,11 @@ DialogBox {
             Repeater {
                 id: items
 
-                objectName: "items"
                 model: projects
                 delegate: LastProjectItem {
                     required property int index
 
+                    objectName: "lastProject"
                     width: column.width
                     current: path === MainWindow.projPath
                     onChosen: dialog.open(path)

@@ -6,11 +6,11 @@ ButtonBase {
 
     // A map with "name", "fps", "framewidth" and "frameheight"; nothing is shown without one.
     required property var preset
-    property bool highlighted: false
 
     signal chosen()
 
     visible: preset !== undefined
+    active: preset !== undefined
     tabStop: false
     label: preset ? preset.name + ", " + rate.text : ""
     toolTip: label
@@ -44,9 +44,5 @@ ButtonBase {
             text: cell.preset ? qsTranslate("ProjectPresets", "%1 fps").arg(cell.preset.fps) : ""
             Accessible.ignored: true
         }
-    }
-
-    FocusRing {
-        visible: cell.highlighted
     }
 }

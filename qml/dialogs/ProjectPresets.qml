@@ -23,7 +23,7 @@ DialogBox {
 
     // Cells run along the rows; undefined where a column is shorter than others.
     function presetAt(cell) {
-        return columns[cell % columnCount].presets[Math.floor(cell / columnCount)];
+        return columns[cell % columnCount]?.presets[Math.floor(cell / columnCount)];
     }
 
     function choose(preset) {
@@ -74,23 +74,13 @@ DialogBox {
             model: dialog.rowCount * dialog.columnCount
             Accessible.role: Accessible.Table
             Accessible.name: dialog.heading
-            Keys.onReturnPressed: chooseCurrent()
-            Keys.onEnterPressed: chooseCurrent()
-            Keys.onSpacePressed: chooseCurrent()
             delegate: ProjectPresetCell {
                 required property int index
 
                 preset: dialog.presetAt(index)
                 width: grid.cellWidth - 1
                 height: grid.cellHeight - 1
-                highlighted: grid.activeFocus && GridView.isCurrentItem
                 onChosen: dialog.choose(preset)
-            }
-
-            function chooseCurrent() {
-                const preset = dialog.presetAt(currentIndex);
-                if (preset)
-                    dialog.choose(preset);
             }
         }
 

@@ -20,7 +20,8 @@ Timer {
     function restartEstimate() {
         remainingMs = -1;
         currentBefore = current;
-        restart();
+        if (running)
+            restart();
     }
 
     // A step without any progress tells nothing: the last estimate stays.

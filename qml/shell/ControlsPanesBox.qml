@@ -7,7 +7,8 @@ Rectangle {
     required property var scene
     property bool shown: true
 
-    width: shown ? Math.min(ControlsPanesBoxW, parent.width * 0.36) : 0
+    // Without a project there is nothing to set.
+    width: shown && MainWindow.projectLoaded ? Math.min(ControlsPanesBoxW, parent.width * 0.36) : 0
     visible: width > 0
     color: GlobalDarkerColor
 
@@ -16,15 +17,18 @@ Rectangle {
 
         anchors.fill: parent
         anchors.margins: DefFontSizeMicro
-        contentHeight: pane.height
+        contentHeight: pane.item ? pane.item.height : 0
         boundsBehavior: Flickable.StopAtBounds
         clip: true
 
-        ProjectPane {
+        Loader {
             id: pane
 
             width: flick.width - DefFontSizeMicro
-            scene: controlsPanesBox.scene
+            active: MainWindow.projectLoaded
+            sourceComponent: ProjectPane {
+                scene: controlsPanesBox.scene
+            }
         }
     }
 

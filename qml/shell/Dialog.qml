@@ -83,9 +83,9 @@ FocusScope {
         id: closeButton
 
         visible: dialog.closable && loader.status === Loader.Ready
-        anchors.right: frame.right
-        anchors.top: frame.top
-        anchors.margins: -height / 3
+        // At the frame's corner, but never out of the window.
+        x: Math.min(frame.x + frame.width - width * 2 / 3, dialog.width - width)
+        y: Math.max(frame.y - height / 3, 0)
         icon: "svgicons/close.svg"
         toolTip: qsTr("Close")
         onClicked: dialog.close()

@@ -69,6 +69,15 @@ SceneDevices {
         timelineBox.pasteFrames();
     }
 
+    // The picture's window for a second screen is not part of this version.
+    function previewWindow() {
+        tell(Zum.Info, qsTr("This version has no preview window yet."));
+    }
+
+    function importClipboardImages() {
+        tell(Zum.Info, qsTr("This version cannot import pictures yet."));
+    }
+
     function projectIsLoaded() {
         addLastProject();
         WebcamGlobal.projectChanged = false;

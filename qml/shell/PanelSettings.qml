@@ -8,7 +8,8 @@ Item {
         WebcamGlobal.rightPanelPinned = asBool(MainWindow.getSetting("rightPanelPinned", true));
         WebcamGlobal.rightPanelExpanded = asBool(MainWindow.getSetting("rightPanelExpanded", false));
         FramesModel.autoMaximizeRange = asBool(MainWindow.getSetting("autoMaximizeRange", true));
-        FramesModel.doubleDecker = asBool(MainWindow.getSetting("doubleDecker", false));
+        FramesModel.doubleDecker = asBool(MainWindow.getSetting("doubleDecker", false)) || !FramesModel.playingCaptured;
+        WebcamGlobal.timelineCompact = !FramesModel.doubleDecker;
         pinned.enabled = true;
     }
 

@@ -14,15 +14,6 @@ Column {
 
         TextLabel {
             width: parent.width
-            visible: !MainWindow.projectLoaded
-            wrapMode: Text.Wrap
-            dim: true
-            text: qsTr("No project is open. Its frame size, rate and names are set here.")
-        }
-
-        TextLabel {
-            width: parent.width
-            visible: MainWindow.projectLoaded
             wrapMode: Text.WrapAnywhere
             small: true
             dim: true
@@ -32,7 +23,6 @@ Column {
         NumberInput4 {
             width: parent.width
             label: qsTr("Frame width")
-            active: MainWindow.projectLoaded
             value: WebcamGlobal.cropAreaW
             minimum: 8
             maximum: MaxFrameWidth
@@ -43,7 +33,6 @@ Column {
         NumberInput4 {
             width: parent.width
             label: qsTr("Frame height")
-            active: MainWindow.projectLoaded
             value: WebcamGlobal.cropAreaH
             minimum: 8
             maximum: MaxFrameHeight
@@ -55,14 +44,12 @@ Column {
             text: qsTr("Presets")
             icon: "svgicons/preset.svg"
             toolTip: qsTr("Choose a frame size and rate from a list")
-            active: MainWindow.projectLoaded
             onClicked: projectPane.scene.projectPresetsBox()
         }
 
         NumberInput5 {
             width: parent.width
             label: qsTr("Frames per second")
-            active: MainWindow.projectLoaded
             value: FramesModel.timelineFps
             minimum: 1
             maximum: maxFps
@@ -74,7 +61,6 @@ Column {
         NumberInput4 {
             width: parent.width
             label: qsTr("Number of the first frame")
-            active: MainWindow.projectLoaded
             value: FramesModel.startIndex
             minimum: 0
             maximum: startIndexMax
@@ -99,7 +85,6 @@ Column {
                 required property var modelData
 
                 width: parent.width
-                active: MainWindow.projectLoaded
                 placeholder: modelData.text
                 label: modelData.text
                 text: WebcamGlobal[modelData.name]

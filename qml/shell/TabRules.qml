@@ -64,16 +64,22 @@ Item {
         WebcamGlobal.flipFlop = Zum.NoFlipFlop;
     }
 
-    // Goes by the name of the tab: what is bound to it may not have followed yet.
+    // Asks for the name itself: what is bound to it may not have followed yet.
     function enter() {
-        if (tab === "captureUIisOn")
+        switch (tab) {
+        case "captureUIisOn":
             enterCapture();
-        else if (tab === "timingUIisOn")
+            break;
+        case "timingUIisOn":
             enterTiming();
-        else if (tab === "playbackUIisOn")
+            break;
+        case "playbackUIisOn":
             enterVideo();
-        else if (tab === "docsUIisOn")
+            break;
+        case "docsUIisOn":
             enterDocs();
+            break;
+        }
     }
 
     visible: false

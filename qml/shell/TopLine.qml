@@ -86,7 +86,7 @@ Rectangle {
         IconButton {
             id: showHideRightPanel
 
-            visible: topLine.rules.panesShown && !topLine.rules.video
+            visible: topLine.rules.panesShown && !topLine.rules.video && MainWindow.projectLoaded
             icon: WebcamGlobal.rightPanelPinned ? "svgicons/panel-hide.svg" : "svgicons/panel-show.svg"
             toggled: WebcamGlobal.rightPanelPinned
             toolTip: WebcamGlobal.rightPanelPinned ? qsTr("Hide the right panel") : qsTr("Show the right panel")

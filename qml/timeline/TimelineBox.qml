@@ -14,7 +14,7 @@ Rectangle {
                                             && (FramesModel.selectedCount > 0 || FramesModel.pointedGuid >= 0)
     readonly property int wantedHeight: compactMode
         ? 140
-        : Math.min(MainWindow.timelineH * (WebcamGlobal.timelineCompact ? 0.78 : 1), parent.height / 2)
+        : Math.min(MainWindow.timelineH * (WebcamGlobal.timelineCompact ? 0.78 : 1), parent.height * 0.36)
 
     function copyFrames() {
         arm(true);
@@ -152,7 +152,8 @@ Rectangle {
         }
 
         function onTimelineShowAddBox() {
-            controls.openAddBox();
+            if (controls.item)
+                controls.item.openAddBox();
         }
     }
 
@@ -169,15 +170,19 @@ Rectangle {
         }
     }
 
-    TimelineControls {
+    // Without a project none of them could do anything.
+    Loader {
         id: controls
 
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
+        active: MainWindow.projectLoaded
         visible: !timeline.compactMode
-        height: visible ? implicitHeight : 0
-        timeline: timeline
+        height: visible && item ? item.implicitHeight : 0
+        sourceComponent: TimelineControls {
+            timeline: timeline
+        }
     }
 
     TimelineStrip {

@@ -14,8 +14,6 @@ Item {
 
     readonly property string toolTip: missing ? missingText() : ""
 
-    signal picked(int modifiers)
-
     function missingText() {
         let text = "";
         if (model.capfullmiss && model.capTumb.length > 0)
@@ -117,9 +115,4 @@ Item {
     }
 
     HoverTip {}
-
-    MouseArea {
-        anchors.fill: parent
-        onClicked: mouse => frame.picked(mouse.modifiers)
-    }
 }

@@ -22,9 +22,9 @@ Item {
         highlightFollowsCurrentItem: false
         cacheBuffer: width
         reuseItems: true
+        interactive: false
         delegate: TimelineFrame {
             height: view.height
-            onPicked: modifiers => strip.pick(index, modifiers)
         }
         onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
     }
@@ -74,10 +74,76 @@ Item {
         }
     }
 
+    MouseArea {
+        id: mouse
+
+        property int pressedRow: -1
+        property real pressedContentX: 0
+        property real pressedX: 0
+        readonly property int rowUnder: view.indexAt(mouseX + view.contentX, 1)
+
+        anchors.fill: view
+        acceptedButtons: Qt.LeftButton | Qt.MiddleButton
+        cursorShape: pressedButtons & Qt.MiddleButton ? Qt.ClosedHandCursor : Qt.ArrowCursor
+        onPressed: event => {
+            pressedRow = view.indexAt(event.x + view.contentX, 1);
+            pressedContentX = view.contentX;
+            pressedX = event.x;
+        }
+        onPositionChanged: event => {
+            if (pressedButtons & Qt.MiddleButton)
+                strip.scrollTo(pressedContentX - (event.x - pressedX));
+        }
+        onReleased: event => {
+            if (event.button !== Qt.LeftButton || pressedRow < 0)
+                return;
+            const row = view.indexAt(event.x + view.contentX, 1);
+            if (row === pressedRow)
+                strip.pick(row, event.modifiers);
+            else if (row >= 0)
+                strip.drag(pressedRow, row, event.modifiers);
+        }
+    }
+
+    // The span that a drag would select.
+    Rectangle {
+        visible: mouse.pressed && mouse.pressedButtons === Qt.LeftButton && mouse.rowUnder >= 0
+                 && mouse.rowUnder !== mouse.pressedRow
+        x: Math.min(mouse.pressedX, mouse.mouseX)
+        width: Math.abs(mouse.mouseX - mouse.pressedX)
+        height: view.height
+        color: activeColor
+        opacity: 0.2
+    }
+
     WheelHandler {
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-        onWheel: event => view.contentX = Math.max(0, Math.min(view.contentWidth - view.width,
-            view.contentX - Math.sign(event.angleDelta.y + event.angleDelta.x) * MainWindow.scaledThumbSize.width))
+        onWheel: event => strip.scrollTo(view.contentX - Math.sign(event.angleDelta.y + event.angleDelta.x)
+                                                         * (MainWindow.scaledThumbSize.width + DefFontSizeMicro))
+    }
+
+    function scrollTo(x) {
+        view.contentX = Math.max(0, Math.min(view.contentWidth - view.width, x));
+    }
+
+    // From one row to another: selects the rows between, or with Alt moves frames, with Ctrl copies of them.
+    function drag(from, to, modifiers) {
+        if (WebcamGlobal.timelineInteractive) {
+            FramesModel.addRangeToGroup(from, to);
+            return;
+        }
+        const copies = modifiers & Qt.ControlModifier;
+        if (FramesModel.selectedCount > 0 && FramesModel.get(from, false).ingroup) {
+            FramesModel.currentIndex = to;
+            if (copies)
+                timeline.dublicateAndMoveFrames();
+            else
+                timeline.moveFrames();
+        } else if (copies) {
+            FramesModel.duplicateSingleFrame(from, Zum.CaptureModeAppend, to, true);
+        } else {
+            FramesModel.moveSingleFrame(from, to, true);
+        }
     }
 
     function pick(row, modifiers) {

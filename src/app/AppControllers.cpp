@@ -27,24 +27,36 @@ AppControllers::~AppControllers() = default;
 ProjectPaths::Hooks AppControllers::pathHooks()
 {
     ProjectPaths::Hooks hooks;
-    hooks.closeSessionLog = [this] { sessionLog.close(); };
-    hooks.openSessionLog = [this](const QString &path) { sessionLog.open(path); };
-    hooks.setFrameFolders = [this](const QVariantMap &folders) { frames.setFolders(folders); };
-    hooks.resetTitle = [this] { emit lifecycle.titleChanged(); };
+    hooks.closeSessionLog = [this] {
+        sessionLog.close();
+    };
+    hooks.openSessionLog = [this](const QString &path) {
+        sessionLog.open(path);
+    };
+    hooks.setFrameFolders = [this](const QVariantMap &folders) {
+        frames.setFolders(folders);
+    };
+    hooks.resetTitle = [this] {
+        emit lifecycle.titleChanged();
+    };
     return hooks;
 }
 
 ProjectServices AppControllers::projectServices()
 {
     ProjectServices services{settings(), global, messages, progress, *environment.dialogs, files, recent};
-    services.clearRobotJob = [this] { robot.setCurrentRobotJob(Zum::NoJob); };
+    services.clearRobotJob = [this] {
+        robot.setCurrentRobotJob(Zum::NoJob);
+    };
     return services;
 }
 
 void AppControllers::attachWindow(MainWindow &window)
 {
     screen.attach({[&window] { return window.timelineH(); },
-                   [&window](int height) { window.setTimelineH(height); }});
+                   [&window](int height) {
+                       window.setTimelineH(height);
+                   }});
     quitHost = std::make_unique<WindowQuitHost>(*this, window);
     quitSequence = std::make_unique<QuitSequence>(*quitHost);
 }

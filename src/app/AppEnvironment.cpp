@@ -6,9 +6,10 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-AppEnvironment AppEnvironment::system(std::unique_ptr<Settings> settings)
+AppEnvironment AppEnvironment::system(QQmlEngine &engine, std::unique_ptr<Settings> settings)
 {
     AppEnvironment environment;
+    environment.engine = &engine;
     environment.settings = std::move(settings);
     environment.dialogs = std::make_unique<SystemDialogs>();
     environment.desktop = morvane::makeDesktopServices();

@@ -9,9 +9,13 @@
 #include <QDateTime>
 #include <QString>
 
+class QQmlEngine;
+
 /// What the program needs of the world around it. A test hands in its own.
 struct AppEnvironment
 {
+    /// What the scene runs in; it outlives the window.
+    QQmlEngine *engine = nullptr;
     std::unique_ptr<Settings> settings;
     std::unique_ptr<morvane::Dialogs> dialogs;
     std::unique_ptr<morvane::DesktopServices> desktop;
@@ -23,6 +27,6 @@ struct AppEnvironment
     /// Logical horizontal density of the screen, in dots per inch.
     int logicalDpi = 96;
 
-    /// The user's own desktop. Takes the settings that the start has already opened.
-    static AppEnvironment system(std::unique_ptr<Settings> settings);
+    /// The user's own desktop. Takes the engine and the settings that the start has already made.
+    static AppEnvironment system(QQmlEngine &engine, std::unique_ptr<Settings> settings);
 };

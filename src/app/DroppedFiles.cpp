@@ -10,10 +10,9 @@ namespace {
 
 QString pathOf(const QUrl &url)
 {
-    static const QRegularExpression prefix(QStringLiteral("^(qrc:/{2})|(http:/{2})"));
-    // Whole addresses keep what would be ambiguous in them encoded; a path has nothing of that kind.
     if (url.isLocalFile())
         return url.toLocalFile();
+    static const QRegularExpression prefix(QStringLiteral("^(file:/{2,3})|(qrc:/{2})|(http:/{2})"));
     return url.toString().remove(prefix);
 }
 

@@ -39,7 +39,7 @@ MainWindow::MainWindow(std::unique_ptr<AppControllers> controllers, const QStrin
     startup::readInto(c.global, c.settings());
     publishContext();
     connectControllers();
-    setSource(QUrl(QStringLiteral("qrc:/MorvaneRoot.qml")));
+    setSource(QUrl(sceneUrl));
     WindowPlacement(c.settings(), QStringLiteral("mainwindow"), QStringLiteral("maximized")).restore(*this);
     emit windowSizeChanged();
     if (const QString complaint = startup::complaint(c.settings()); !complaint.isEmpty())

@@ -11,6 +11,8 @@ class MainWindow : public ShellFacet
     Q_OBJECT
 
 public:
+    inline static const QString sceneUrl = QStringLiteral("qrc:/MorvaneRoot.qml");
+
     enum ExportDialogs {
         ExportVideoDialog,
         ExportSequenceDialog,

@@ -3,7 +3,9 @@
 #include "app/LightboxChoice.h"
 #include "paths/Curves.h"
 
-CurvesPath::CurvesPath(Curves &curves) : m_curves(curves) {}
+CurvesPath::CurvesPath(Curves &curves) : m_curves(curves)
+{
+}
 
 QByteArray CurvesPath::pathBytes() const
 {
@@ -66,7 +68,9 @@ void KeptCameraSettings::setCameraSetting(const QString &key, const QString &val
         m_settings.insert(key, value);
 }
 
-WindowScreen::WindowScreen(LightboxChoice &lightbox) : m_lightbox(lightbox) {}
+WindowScreen::WindowScreen(LightboxChoice &lightbox) : m_lightbox(lightbox)
+{
+}
 
 void WindowScreen::attach(TimelineHeight height)
 {

@@ -4,6 +4,14 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+namespace {
+
+/// The toolkit labels its own buttons. Named here, their labels are translated with the texts of the program.
+[[maybe_unused]] constexpr const char *toolkitButtons[] = {QT_TRANSLATE_NOOP("QPlatformTheme", "OK"),
+                                                           QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel")};
+
+} // namespace
+
 QString SystemDialogs::openFile(const QString &caption, const QString &start, const QString &filter)
 {
     return QFileDialog::getOpenFileName(nullptr, caption, start, filter);

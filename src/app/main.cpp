@@ -1,5 +1,6 @@
 #include "app/AppControllers.h"
 #include "app/CommandLine.h"
+#include "app/FirstFrame.h"
 #include "app/MainWindow.h"
 #include "app/SplashScreen.h"
 #include "app/Translations.h"
@@ -10,6 +11,8 @@
 
 #include <cstdio>
 #include <QApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QScreen>
 #include <QTimer>
 
@@ -30,8 +33,12 @@ int main(int argc, char *argv[])
     auto settings = std::make_unique<Settings>();
     const QString locale = LocaleChoice::startLocale(*settings, LocaleChoice::systemLocaleName());
     typeregistry::registerTypes();
+    // The scene's files are read and resolved in the engine's own thread while the rest of the start goes on;
+    // the window then finds them ready.
+    QQmlEngine engine;
+    const QQmlComponent scene(&engine, QUrl(MainWindow::sceneUrl), QQmlComponent::Asynchronous);
 
-    AppEnvironment environment = AppEnvironment::system(std::move(settings));
+    AppEnvironment environment = AppEnvironment::system(engine, std::move(settings));
     SplashScreen splash(ScreenDensity::snapped(environment.logicalDpi));
     splash.show();
     QCoreApplication::processEvents();
@@ -45,6 +52,7 @@ int main(int argc, char *argv[])
     {
         MainWindow window(std::make_unique<AppControllers>(std::move(environment)),
                           QCoreApplication::arguments());
+        firstframe::endAfter(window);
         window.show();
         QTimer::singleShot(1500, &splash, &QWidget::close);
         result = QApplication::exec();

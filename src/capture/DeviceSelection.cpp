@@ -96,8 +96,11 @@ int DeviceSelection::getDeviceTypeByName(const QString &name) const
         return Zum::CapturingDeviceWebcam;
     // A device that calls itself a device or a camera in the user's language is taken for a web camera. The
     // translation is not lowered, so one that begins with a capital never matches.
-    const bool generic = lowerName.contains(text(QT_TRANSLATE_NOOP("MainWindow", "device")))
-                         || lowerName.contains(text(QT_TRANSLATE_NOOP("MainWindow", "camera")));
+    //: Looked for in the names that devices give themselves, which are English: keep the word as it is
+    const QString device = text(QT_TRANSLATE_NOOP("MainWindow", "device"));
+    //: Looked for in the names that devices give themselves, which are English: keep the word as it is
+    const QString camera = text(QT_TRANSLATE_NOOP("MainWindow", "camera"));
+    const bool generic = lowerName.contains(device) || lowerName.contains(camera);
     return generic ? Zum::CapturingDeviceWebcam : Zum::CapturingDeviceHDMITethering;
 }
 

@@ -4,6 +4,7 @@
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
+#include <cerrno>
 #endif
 
 namespace {
@@ -14,7 +15,10 @@ bool flushToDisk(QSaveFile &file)
     if (!file.flush())
         return false;
 #ifdef Q_OS_UNIX
-    return ::fsync(file.handle()) == 0;
+    if (::fsync(file.handle()) == 0)
+        return true;
+    // Some network and user-space file systems cannot flush; there the rename has to do.
+    return errno == EINVAL || errno == ENOSYS || errno == ENOTSUP;
 #else
     return true;
 #endif

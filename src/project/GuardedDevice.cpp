@@ -3,8 +3,8 @@
 namespace {
 
 constexpr qint64 longestToken = 32 * 1024 * 1024;
-// Two quotes an attribute; the largest element of a project has about sixty of them.
-constexpr int mostQuotes = 2 * 256;
+// The largest element of a project has about sixty.
+constexpr int mostAttributes = 256;
 
 } // namespace
 
@@ -43,14 +43,27 @@ qint64 GuardedDevice::writeData(const char *, qint64)
     return -1;
 }
 
-// A "<" never stands inside an attribute, so the quotes since the last one bound the attributes of a tag.
+// Every attribute has its value in quotes; a "<" never stands in one, so that it begins a tag wherever it
+// comes.
 bool GuardedDevice::hasTooManyAttributes(const char *data, qint64 size)
 {
     for (const char *at = data; at != data + size; ++at) {
-        if (*at == '<')
-            m_quotesOfTag = 0;
-        else if ((*at == '"' || *at == '\'') && ++m_quotesOfTag > mostQuotes)
-            return true;
+        if (*at == '<') {
+            m_inTag = true;
+            m_quote = '\0';
+            m_attributesOfTag = 0;
+        } else if (!m_inTag) {
+            continue;
+        } else if (m_quote != '\0') {
+            if (*at == m_quote)
+                m_quote = '\0';
+        } else if (*at == '"' || *at == '\'') {
+            m_quote = *at;
+            if (++m_attributesOfTag > mostAttributes)
+                return true;
+        } else if (*at == '>') {
+            m_inTag = false;
+        }
     }
     return false;
 }

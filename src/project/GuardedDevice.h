@@ -39,6 +39,9 @@ private:
     QIODevice &m_source;
     const std::atomic<bool> *m_cancelled;
     qint64 m_bytesOfToken = 0;
-    int m_quotesOfTag = 0;
+    int m_attributesOfTag = 0;
+    bool m_inTag = false;
+    /// The quote that ends the attribute under way; zero between attributes.
+    char m_quote = '\0';
     Stop m_stop = Stop::None;
 };

@@ -40,7 +40,8 @@ struct TextRule
         ProfilePath,
     };
 
-    qsizetype longest = 4096;
+    /// Far more than anyone types, so that nothing the program itself wrote is refused.
+    qsizetype longest = 65536;
     Kind kind = Kind::Any;
 };
 

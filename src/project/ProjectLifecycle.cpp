@@ -136,6 +136,7 @@ void ProjectLifecycle::resetProject(Reset mode)
 {
     ++m_generation;
     m_files.abandonAdding();
+    m_frames.stopPlayback();
     m_importing = false;
     m_changedSinceWrite = false;
     setLoadingProject(true);

@@ -100,7 +100,8 @@ void TimelineFrames::clear()
 
 void TimelineFrames::stopPlayback()
 {
-    m_model.stop();
+    if (m_model.playing())
+        m_model.stop();
 }
 
 void TimelineFrames::beginFill()

@@ -19,7 +19,7 @@ QString pattern(const QString &label, const QString &filters)
 
 QString projectFilesLabel()
 {
-    return QStringLiteral("Morvane ") + windowText(QT_TRANSLATE_NOOP("MainWindow", "project files"));
+    return windowText(QT_TRANSLATE_NOOP("MainWindow", "Morvane project files"));
 }
 
 } // namespace

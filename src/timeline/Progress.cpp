@@ -22,15 +22,15 @@ void Progress::setCurrent(qreal value)
 qreal Progress::keepInRange(qreal value)
 {
     if (value > rangeStart() && value < rangeEnd()) {
-        setPositionName(Zum::UndefinedPosition);
+        setCurrentPositionName(Zum::UndefinedPosition);
         return value;
     }
     if (value <= rangeStart()) {
-        setPositionName(Zum::ReachedRangeStart);
+        setCurrentPositionName(Zum::ReachedRangeStart);
         emit reachedRangeStart();
         return rangeStart();
     }
-    setPositionName(Zum::ReachedRangeEnd);
+    setCurrentPositionName(Zum::ReachedRangeEnd);
     emit reachedRangeEnd();
     return autoRewind() ? rangeStart() : rangeEnd();
 }
@@ -38,16 +38,16 @@ qreal Progress::keepInRange(qreal value)
 qreal Progress::keepInList(qreal value)
 {
     if (total() > 0 && value >= total()) {
-        setPositionName(Zum::ReachedEnd);
+        setCurrentPositionName(Zum::ReachedEnd);
         emit reachedEnd();
         return autoRewind() ? 0 : value;
     }
     if (value <= 0) {
-        setPositionName(Zum::ReachedStart);
+        setCurrentPositionName(Zum::ReachedStart);
         emit reachedStart();
         return value;
     }
-    setPositionName(Zum::UndefinedPosition);
+    setCurrentPositionName(Zum::UndefinedPosition);
     return value;
 }
 
@@ -105,18 +105,10 @@ void Progress::calculateTimes()
     constexpr int secondMs = 1000;
     constexpr int minuteMs = 60 * secondMs;
     constexpr int hourMs = 60 * minuteMs;
-    setTime(m_mSeconds, m_milliseconds % secondMs, &Progress::mSecondsChanged);
-    setTime(m_seconds, m_milliseconds % minuteMs / secondMs, &Progress::secondsChanged);
-    setTime(m_minutes, m_milliseconds % hourMs / minuteMs, &Progress::minutesChanged);
-    setTime(m_hours, m_milliseconds / hourMs, &Progress::hoursChanged);
-}
-
-void Progress::setTime(int &part, int value, Signal changed)
-{
-    if (value == part)
-        return;
-    part = value;
-    emit(this->*changed)();
+    setMSeconds(m_milliseconds % secondMs);
+    setSeconds(m_milliseconds % minuteMs / secondMs);
+    setMinutes(m_milliseconds % hourMs / minuteMs);
+    setHours(m_milliseconds / hourMs);
 }
 
 void Progress::discretize(int type)
@@ -162,12 +154,4 @@ void Progress::setRangeHandler(Handler &handler, qreal value, Signal changed, Si
     handler.value = kept;
     emit(this->*changed)();
     setX(handler, toPixels(kept), xChanged);
-}
-
-void Progress::setPositionName(int name)
-{
-    if (name == m_positionName)
-        return;
-    m_positionName = name;
-    emit currentPositionNameChanged();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "shared/PropertyMacros.h"
+#include "timeline/model/ObservedProperty.h"
+
 #include "shared/Zum.h"
 
 #include <QQuickItem>
@@ -18,11 +19,6 @@ class Progress : public QQuickItem
     Q_PROPERTY(qreal rangeStartX READ rangeStartX WRITE setRangeStartX NOTIFY rangeStartXChanged)
     Q_PROPERTY(qreal rangeEndX READ rangeEndX WRITE setRangeEndX NOTIFY rangeEndXChanged)
     Q_PROPERTY(int milliseconds READ milliseconds WRITE setMilliseconds NOTIFY millisecondsChanged)
-    Q_PROPERTY(int mSeconds READ mSeconds NOTIFY mSecondsChanged)
-    Q_PROPERTY(int seconds READ seconds NOTIFY secondsChanged)
-    Q_PROPERTY(int minutes READ minutes NOTIFY minutesChanged)
-    Q_PROPERTY(int hours READ hours NOTIFY hoursChanged)
-    Q_PROPERTY(int currentPositionName READ currentPositionName NOTIFY currentPositionNameChanged)
 
     /// Values snap to whole frames.
     MORVANE_PROPERTY(bool, discrete, Discrete, false)
@@ -30,6 +26,13 @@ class Progress : public QQuickItem
     MORVANE_PROPERTY(bool, autoRewind, AutoRewind, false)
     /// `current` may not leave the range.
     MORVANE_PROPERTY(bool, lockInRange, LockInRange, false)
+    /// The parts of `milliseconds`.
+    MORVANE_OBSERVED_PROPERTY(int, mSeconds, MSeconds, 0)
+    MORVANE_OBSERVED_PROPERTY(int, seconds, Seconds, 0)
+    MORVANE_OBSERVED_PROPERTY(int, minutes, Minutes, 0)
+    MORVANE_OBSERVED_PROPERTY(int, hours, Hours, 0)
+    /// Where the last write of `current` ended up, a Zum::RangePositions value.
+    MORVANE_OBSERVED_PROPERTY(int, currentPositionName, CurrentPositionName, Zum::UndefinedPosition)
 
 public:
     enum HandlerTypes {
@@ -84,27 +87,6 @@ public:
         return m_milliseconds;
     }
     void setMilliseconds(int milliseconds);
-    int mSeconds() const
-    {
-        return m_mSeconds;
-    }
-    int seconds() const
-    {
-        return m_seconds;
-    }
-    int minutes() const
-    {
-        return m_minutes;
-    }
-    int hours() const
-    {
-        return m_hours;
-    }
-    /// Where the last write of `current` ended up, a Zum::RangePositions value.
-    int currentPositionName() const
-    {
-        return m_positionName;
-    }
 
     /// Recomputes the three pixel positions.
     Q_INVOKABLE void goUpdate();
@@ -122,11 +104,6 @@ signals:
     void rangeStartXChanged();
     void rangeEndXChanged();
     void millisecondsChanged();
-    void mSecondsChanged();
-    void secondsChanged();
-    void minutesChanged();
-    void hoursChanged();
-    void currentPositionNameChanged();
 
     void reachedRangeStart();
     void reachedRangeEnd();
@@ -147,17 +124,10 @@ private:
     void setRangeHandler(Handler &handler, qreal value, Signal changed, Signal xChanged);
     qreal keepInRange(qreal value);
     qreal keepInList(qreal value);
-    void setPositionName(int name);
-    void setTime(int &part, int value, Signal changed);
 
     Handler m_current;
     Handler m_rangeStart;
     Handler m_rangeEnd;
     qreal m_total = 0;
     int m_milliseconds = 0;
-    int m_mSeconds = 0;
-    int m_seconds = 0;
-    int m_minutes = 0;
-    int m_hours = 0;
-    int m_positionName = Zum::UndefinedPosition;
 };

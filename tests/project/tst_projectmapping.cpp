@@ -167,6 +167,8 @@ private slots:
                                    u"cropAreaH"_s,
                                    u"exportSizeW"_s,
                                    u"sequenceExportSizeW"_s,
+                                   u"exportSizeH"_s,
+                                   u"sequenceExportSizeH"_s,
                                    u"cropAreaOn"_s,
                                    u"gridOn"_s,
                                    u"gridOpacity"_s,

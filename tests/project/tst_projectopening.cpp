@@ -31,6 +31,7 @@ private slots:
     void cancelBeforeTheFirstFrameCloses();
     void clearingLoadingProjectBreaksTheLoad();
     void anotherProjectReplacesOneThatIsStillLoading();
+    void closingDuringALoadDropsIt();
     void missingPicturesAreReportedOneByOne();
     void loadingShowsItsProgress();
     void loadingKeepsTheWindowResponsive();
@@ -346,6 +347,21 @@ void TestProjectOpening::anotherProjectReplacesOneThatIsStillLoading()
     QTest::qWait(20);
     QCOMPARE(world.model.framesCount(), 2);
     QCOMPARE(world.paths.projPath(), second);
+}
+
+void TestProjectOpening::closingDuringALoadDropsIt()
+{
+    ProjectWorld world;
+    world.operations.setSliceMs(0);
+    QCOMPARE(world.life.projectFileOpen(world.writeProject("p.kzfx", 100)), int(Zum::FileIsOk));
+    world.life.closeProject();
+    QVERIFY(world.operation.isFree());
+    QTest::qWait(20);
+    QCOMPARE(world.model.framesCount(), 0);
+    QVERIFY(!world.life.projectLoaded());
+    QVERIFY(!world.model.isResetting());
+    QVERIFY(world.open(world.path("p.kzfx")));
+    QCOMPARE(world.model.framesCount(), 100);
 }
 
 void TestProjectOpening::missingPicturesAreReportedOneByOne()

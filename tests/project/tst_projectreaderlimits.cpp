@@ -228,11 +228,19 @@ private slots:
     void absurdTextIsRefused()
     {
         const ProjectReadResult result =
-            readElements("<ProjectInfo movieTitle=\"" + QByteArray(5000, 'a') + "\" movieScene=\"b\"/>");
+            readElements("<ProjectInfo movieTitle=\"" + QByteArray(70000, 'a') + "\" movieScene=\"b\"/>");
         QVERIFY(!result.document.info->movieTitle);
         QCOMPARE(result.document.info->movieScene, u"b"_s);
         QCOMPARE(result.refusals.size(), 1);
         QVERIFY(result.refusals.first().size() < 200);
+    }
+
+    void quotesInsideATextAreNoAttributes()
+    {
+        const QByteArray title = QByteArray("it's 'so' > ").repeated(400);
+        const ProjectReadResult result = readElements("<ProjectInfo movieTitle=\"" + title + "\"/>");
+        QCOMPARE(result.status, Status::Ok);
+        QCOMPARE(result.document.info->movieTitle, QString::fromLatin1(title));
     }
 
     void refusalsAreCountedPastAHundred()

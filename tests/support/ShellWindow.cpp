@@ -63,6 +63,7 @@ void ShellWindow::build(const Options &options)
     s_warnings = &m_warnings;
 
     AppEnvironment environment;
+    environment.engine = &m_engine;
     const QString path = options.settingsPath.isEmpty() ? m_folder.filePath(QStringLiteral("settings.ini"))
                                                         : options.settingsPath;
     environment.settings = std::make_unique<Settings>(path);

@@ -5,6 +5,7 @@
 #include "support/FakeDesktopServices.h"
 #include "support/FakeDialogs.h"
 
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -102,6 +103,7 @@ private:
     void build(const Options &options);
 
     QTemporaryDir m_folder;
+    QQmlEngine m_engine;
     FakeDialogs *m_dialogs = nullptr;
     FakeDesktopServices *m_desktop = nullptr;
     std::unique_ptr<MainWindow> m_window;

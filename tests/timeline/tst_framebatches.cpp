@@ -1,22 +1,12 @@
 #include "timeline/ModelSupport.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-
 class tst_FrameBatches : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void selectsTheNewestFirst();
-    void deselectsASelectedFrame();
-    void logsAFrameThatIsSelectedTwice();
-    void switchesARangeEitherWay();
-    void deselectsWhatWasSelectedWhenSelectingAll();
-    void knowsWhenAllAreSelected();
     void doesNothingUnderTheEntryRule_data();
     void doesNothingUnderTheEntryRule();
-    void makesTheTopmostSelectedRowCurrent();
 
     void labelsEachChain_data();
     void labelsEachChain();
@@ -29,22 +19,15 @@ private slots:
     void leavesTheFramesWhereNothingIsPointedAt();
     void duplicatesTheSelectionBehindThePointedFrame();
     void duplicatesTheSelectionInPlaceUnderAReset();
-    void ignoresAnActionThatIsNoChain();
+    void labelsActionsThatAreNoChain_data();
+    void labelsActionsThatAreNoChain();
 
     void clearsTheSelectedFrames_data();
     void clearsTheSelectedFrames();
     void switchesTheMirroringOfEachFrame();
     void hidesTheSelectedFramesAndDismisses();
     void passesOverASelectedFrameThatHasGone();
-    void dismissesAtOnce();
-    void dismissesTheListOnlyWhileUnready();
-    void disarmsTheDeletionWhenDismissed();
 
-    void marksHoldsAndDismisses();
-    void marksOnlyTheRange();
-    void marksMissingFiles();
-    void staysSilentWhereNothingChanged();
-    void scansAgainWhatAShotChangedMeanwhile();
     void keepsTheModelForALoneCheckOfMissingFiles();
     void dropsAPendingAction();
     void dropsAPendingDuplication();
@@ -53,82 +36,7 @@ private slots:
     void logsAnActionUnknownToTheSelection();
     void logsAStartWithoutFrames();
     void doesNothingForNoFrames();
-
-    void pastesACopyOnce();
-    void refusesToCopyOrPasteWhileBusy();
-    void forgetsACopyThatHasGone();
 };
-
-void tst_FrameBatches::selectsTheNewestFirst()
-{
-    TestModel model(5);
-    QSignalSpy counted(&model, &FramesModel::selectedCountChanged);
-    model.switchSelectionOnSingleFrame(3);
-    model.switchSelectionOnSingleFrame(0);
-    QCOMPARE(model.selectedGuids(), QList<int>({10000000, 10000003}));
-    QVERIFY(model.frameAt(0).ingroup && model.frameAt(3).ingroup);
-    QCOMPARE(model.selectedCount(), 2);
-    QCOMPARE(counted.count(), 2);
-    QCOMPARE(model.lastAccessedIndex(), 0);
-    model.switchSelectionOnSingleFrame(9);
-    QCOMPARE(counted.count(), 2);
-}
-
-void tst_FrameBatches::deselectsASelectedFrame()
-{
-    TestModel model(5);
-    model.switchSelectionOnSingleFrame(3);
-    model.switchSelectionOnSingleFrame(3);
-    QCOMPARE(model.selectedCount(), 0);
-    QVERIFY(!model.frameAt(3).ingroup);
-}
-
-void tst_FrameBatches::logsAFrameThatIsSelectedTwice()
-{
-    TestModel model(5);
-    model.switchSelectionOnSingleFrame(3, true);
-    LogLines log;
-    model.switchSelectionOnSingleFrame(3, true);
-    QCOMPARE(log.take(), QStringList{"Dublicate 10000003. Removed dublicate guids 1"});
-    QCOMPARE(model.selectedCount(), 1);
-    QVERIFY(model.frameAt(3).ingroup);
-}
-
-void tst_FrameBatches::switchesARangeEitherWay()
-{
-    TestModel model(5);
-    model.switchSelectionOnSingleFrame(2);
-    model.addRangeToGroup(3, 1);
-    QCOMPARE(model.selectedGuids(), QList<int>({10000003, 10000001}));
-    model.addRangeToGroup(0, 5);
-    model.addRangeToGroup(-1, 2);
-    QCOMPARE(model.selectedCount(), 2);
-}
-
-void tst_FrameBatches::deselectsWhatWasSelectedWhenSelectingAll()
-{
-    TestModel model(5);
-    model.switchSelectionOnSingleFrame(1);
-    model.switchSelectionOnSingleFrame(3);
-    model.selectAll();
-    QCOMPARE(model.selectedGuids(), QList<int>({10000004, 10000002, 10000000}));
-    QVERIFY(!model.frameAt(1).ingroup && !model.frameAt(3).ingroup);
-    QVERIFY(model.frameAt(0).ingroup);
-    QVERIFY(!model.allSelected());
-}
-
-void tst_FrameBatches::knowsWhenAllAreSelected()
-{
-    TestModel model(3);
-    QSignalSpy all(&model, &FramesModel::allSelectedChanged);
-    model.selectAll();
-    QVERIFY(model.allSelected());
-    model.switchSelectionOnSingleFrame(1);
-    QVERIFY(!model.allSelected());
-    model.switchSelectionOnSingleFrame(1);
-    QVERIFY(model.allSelected());
-    QCOMPARE(all.count(), 3);
-}
 
 void tst_FrameBatches::doesNothingUnderTheEntryRule_data()
 {
@@ -172,19 +80,6 @@ void tst_FrameBatches::doesNothingUnderTheEntryRule()
     QCOMPARE(model.currentAction(), action);
     QVERIFY(model.settle());
     QCOMPARE(model.names(), names);
-}
-
-void tst_FrameBatches::makesTheTopmostSelectedRowCurrent()
-{
-    TestModel model(5);
-    model.setCurrentIndex(0);
-    model.firstIndexInSelected();
-    QCOMPARE(model.currentIndex(), 4);
-    model.switchSelectionOnSingleFrame(3);
-    model.switchSelectionOnSingleFrame(1);
-    model.switchSelectionOnSingleFrame(2);
-    model.firstIndexInSelected();
-    QCOMPARE(model.currentIndex(), 1);
 }
 
 void tst_FrameBatches::labelsEachChain_data()
@@ -354,12 +249,31 @@ void tst_FrameBatches::duplicatesTheSelectionInPlaceUnderAReset()
     QCOMPARE(model.undoCount(), 4);
 }
 
-void tst_FrameBatches::ignoresAnActionThatIsNoChain()
+void tst_FrameBatches::labelsActionsThatAreNoChain_data()
 {
+    QTest::addColumn<int>("action");
+    QTest::addColumn<QString>("label");
+    QTest::newRow("none") << int(Zum::ActNoAction) << "";
+    QTest::newRow("select") << int(Zum::ActSelect) << "Select";
+    QTest::newRow("dismiss") << int(Zum::ActDismiss) << "Dismiss";
+    QTest::newRow("holds") << int(Zum::ActSearchStaticness) << "Search for staticness";
+    QTest::newRow("playback") << int(Zum::ActSearchHiddenFrames) << "Preparing playback";
+    QTest::newRow("mirror") << int(Zum::ActSetMirrored) << "";
+}
+
+void tst_FrameBatches::labelsActionsThatAreNoChain()
+{
+    QFETCH(int, action);
     TestModel model(4);
-    model.selectAll();
-    model.actionOnSelectedFrames(Zum::ActSetMirrored);
-    QCOMPARE(model.currentAction(), 0);
+    model.addRangeToGroup(1, 2);
+    model.actionOnSelectedFrames(action);
+    QCOMPARE(model.currentAction(), action);
+    QTEST(model.progressAction(), "label");
+    QVERIFY(model.settle());
+    QCOMPARE(model.names(), QStringList({"c0", "c1", "c2", "c3"}));
+    QCOMPARE(model.frameAt(1).mirrored, action == Zum::ActSetMirrored);
+    QCOMPARE(model.frameAt(1).ingroup,
+             action != Zum::ActSelect && action != Zum::ActDismiss && action != Zum::ActSearchStaticness);
 }
 
 void tst_FrameBatches::clearsTheSelectedFrames_data()
@@ -439,121 +353,6 @@ void tst_FrameBatches::passesOverASelectedFrameThatHasGone()
     model.setSelectedMirrored();
     QVERIFY(model.settle());
     QVERIFY(model.frameAt(0).mirrored && model.frameAt(1).mirrored && !model.frameAt(2).mirrored);
-}
-
-void tst_FrameBatches::dismissesAtOnce()
-{
-    TestModel model(4);
-    model.addRangeToGroup(0, 2);
-    QSignalSpy actions(&model, &FramesModel::currentActionChanged);
-    QSignalSpy data(&model, &QAbstractItemModel::dataChanged);
-    model.dismiss();
-    QCOMPARE(actions.count(), 2);
-    QCOMPARE(data.count(), 1);
-    QCOMPARE(model.currentAction(), 0);
-    QCOMPARE(model.selectedCount(), 0);
-    for (int row = 0; row < 4; ++row)
-        QVERIFY(!model.frameAt(row).ingroup);
-}
-
-void tst_FrameBatches::dismissesTheListOnlyWhileUnready()
-{
-    TestModel model(4);
-    model.switchSelectionOnSingleFrame(1);
-    model.searchStaticness(0, 0);
-    LogLines log;
-    model.dismiss();
-    QCOMPARE(log.take(), QStringList{"Unready to Dismiss: 14"});
-    QCOMPARE(model.selectedCount(), 0);
-    QVERIFY(model.frameAt(1).ingroup);
-    QVERIFY(model.settle());
-}
-
-void tst_FrameBatches::disarmsTheDeletionWhenDismissed()
-{
-    TestModel model(4);
-    model.setDeletionConfirmed(true);
-    model.dismiss();
-    QVERIFY(!model.deletionConfirmed());
-    QVERIFY(!model.goingToDeleteCurrentFrame());
-}
-
-void tst_FrameBatches::marksHoldsAndDismisses()
-{
-    TestModel model(0);
-    for (const char *name : {"a", "a", "a", "b", "", "", "c"})
-        model.appendFrame({{"capFull", name}});
-    model.switchSelectionOnSingleFrame(1);
-    QSignalSpy timeline(&model, &FramesModel::timelineChanged);
-    model.searchStaticness(0, 0);
-    QCOMPARE(model.currentAction(), int(Zum::ActSearchStaticness));
-    QCOMPARE(model.progressAction(), QString());
-    QVERIFY(model.settle());
-    QCOMPARE(model.holds(), QList<int>({0, 1, 2, -1, -1, -1, -1}));
-    QCOMPARE(model.selectedCount(), 0);
-    QVERIFY(!model.frameAt(1).ingroup);
-    QCOMPARE(timeline.count(), 0);
-    model.switchMirroredOnSingleFrame(1);
-    model.searchStaticness(0, 0);
-    QVERIFY(model.settle());
-    QCOMPARE(model.holds(), QList<int>({-1, -1, -1, -1, -1, -1, -1}));
-}
-
-void tst_FrameBatches::marksOnlyTheRange()
-{
-    TestModel model(0);
-    for (int i = 0; i < 6; ++i)
-        model.appendFrame({{"capFull", "a"}});
-    model.searchStaticness(2, 4);
-    QVERIFY(model.settle());
-    QCOMPARE(model.holds(), QList<int>({-1, -1, 1, 1, 1, -1}));
-}
-
-void tst_FrameBatches::marksMissingFiles()
-{
-    const QTemporaryDir dir;
-    QFile file(dir.filePath("c0"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    TestModel model(2);
-    model.modifyFrame({{"capfullmiss", true}, {"refFull", "r0"}}, 0, false);
-    model.setFolders({{"capFull", dir.path() + '/'}, {"refFull", dir.path() + '/'}});
-    LogLines log;
-    model.searchStaticness(0, 0);
-    QVERIFY(model.settle());
-    QCOMPARE(log.take(), QStringList({"Missing Reference: r0", "Missing Captured: c1"}));
-    QVERIFY(!model.frameAt(0).capfullmiss && model.frameAt(0).reffullmiss);
-    QVERIFY(model.frameAt(1).capfullmiss && model.frameAt(1).reffullmiss);
-}
-
-void tst_FrameBatches::staysSilentWhereNothingChanged()
-{
-    TestModel model(0);
-    for (const char *name : {"a", "a", "b"})
-        model.appendFrame({{"capFull", name}});
-    QSignalSpy data(&model, &QAbstractItemModel::dataChanged);
-    model.searchStaticness(0, 0);
-    QVERIFY(model.settle());
-    QCOMPARE(data.count(), 2);
-    model.searchStaticness(0, 0);
-    QVERIFY(model.settle());
-    QCOMPARE(data.count(), 2);
-}
-
-void tst_FrameBatches::scansAgainWhatAShotChangedMeanwhile()
-{
-    TestModel model(8);
-    model.setShootMultipleFrames(0);
-    int applied = 0;
-    connect(&model, &FramesModel::dataChanged, &model, [&](const QModelIndex &index) {
-        if (index.row() == 0 && applied++ == 0)
-            model.appendFrame({{"capFull", "c7"}}, true);
-    });
-    model.modifyFrame({{"static", 2}}, 0, false);
-    applied = 0;
-    model.searchStaticness(0, 0);
-    QVERIFY(model.settle());
-    QCOMPARE(model.framesCount(), 9 + 1);
-    QCOMPARE(model.holds().mid(7), QList<int>({0, 1, 2}));
 }
 
 void tst_FrameBatches::keepsTheModelForALoneCheckOfMissingFiles()
@@ -643,45 +442,6 @@ void tst_FrameBatches::doesNothingForNoFrames()
     QVERIFY(model.settle());
     QCOMPARE(model.selectedCount(), 0);
     QVERIFY(!model.frameAt(0).ingroup);
-}
-
-void tst_FrameBatches::pastesACopyOnce()
-{
-    TestModel model(5);
-    model.setCurrentIndex(2);
-    LogLines log;
-    model.copyFrame();
-    QCOMPARE(log.take(), QStringList{"Copy frame to fuffer: 10000002"});
-    model.moveSingleFrame(2, -1);
-    QCOMPARE(model.pasteFrame(), 0);
-    QCOMPARE(model.pasteFrame(), -1);
-    QCOMPARE(log.take(), QStringList{"pasteFrame: Bad guid: -1 or busy or m_frames is empty"});
-    QCOMPARE(model.framesCount(), 5);
-}
-
-void tst_FrameBatches::refusesToCopyOrPasteWhileBusy()
-{
-    TestModel model(5);
-    model.setCurrentIndex(2);
-    model.searchStaticness(0, 0);
-    LogLines log;
-    model.copyFrame();
-    QCOMPARE(model.pasteFrame(), -1);
-    QCOMPARE(log.take(), QStringList({"\"copyFrame: Bad guid: 10000002 or busy\"",
-                                      "pasteFrame: Bad guid: -1 or busy or m_frames is empty"}));
-    QVERIFY(model.settle());
-}
-
-void tst_FrameBatches::forgetsACopyThatHasGone()
-{
-    TestModel model(5);
-    model.setCurrentIndex(2);
-    model.copyFrame();
-    model.removeSingleFrame(2);
-    QCOMPARE(model.pasteFrame(), -1);
-    LogLines log;
-    QCOMPARE(model.pasteFrame(), -1);
-    QCOMPARE(log.take().size(), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_FrameBatches)

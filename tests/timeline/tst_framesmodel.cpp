@@ -1,7 +1,5 @@
 #include "timeline/ModelSupport.h"
 
-#include "timeline/CurrentImageNames.h"
-
 class tst_FramesModel : public QObject
 {
     Q_OBJECT
@@ -18,7 +16,6 @@ private slots:
     void ignoresTheFlagsOfTheMapThatFollowFromNames();
     void announcesARowOnceWithTheViewsAwareAndOnceItself();
     void letsTheViewsOutOfAnUnannouncedAppend();
-    void leavesTheCurrentRowWhereItIsWhenAFrameComesBeforeIt();
     void takesAShotWithItsCopies();
     void takesAShotWhileAnActionRuns();
     void leavesTheRangeAloneWhenAShotMayNotExtendIt();
@@ -30,23 +27,9 @@ private slots:
     void setsAValueAndBecomesDirty();
     void refreshesRows();
 
-    void acceptsAStartIndexUpToThirtyThousand();
-    void cutsTheRateToTwoDecimals_data();
-    void cutsTheRateToTwoDecimals();
-    void hasNoDurationForARangeOfOneFrame();
-    void computesDurationAndInterval();
-    void hasNoIntervalWithoutARate();
-    void repairsTheRangeAfterEachRowChange();
-    void emitsAllThreeWhenItChecksTheRange();
-    void takesACurrentIndexOnlyOfALoadedRow();
-    void ignoresABadPointedGuid();
-    void refreshesTheCurrentStringsInOrder();
-    void sharesTheCurrentNamesWithTheCaptureSide();
     void readsFalseForAddingWhileThereAreNoFrames();
     void keepsTheNumberOfCopiesInItsLimits();
-    void marksTheProjectDirtyByTheRightSettings();
 
-    void makesTheLastRowCurrentWhenLoaded();
     void forgetsSelectionAndUndoWithLoading();
     void clearsAllRowsAtOnce();
     void refusesToClearDuringAnAction();
@@ -275,16 +258,6 @@ void tst_FramesModel::letsTheViewsOutOfAnUnannouncedAppend()
     QCOMPARE(model.framesCount(), 3);
 }
 
-void tst_FramesModel::leavesTheCurrentRowWhereItIsWhenAFrameComesBeforeIt()
-{
-    TestModel model(3);
-    model.setCurrentIndex(1);
-    QCOMPARE(model.currentCaptured(), QString("c1"));
-    model.appendFrame({{"capFull", "new"}}, false, 0);
-    QCOMPARE(model.currentIndex(), 1);
-    QCOMPARE(model.currentCaptured(), QString("new"));
-}
-
 void tst_FramesModel::takesAShotWithItsCopies()
 {
     TestModel model(3);
@@ -399,180 +372,6 @@ void tst_FramesModel::refreshesRows()
     QCOMPARE(order.take(), QStringList());
 }
 
-void tst_FramesModel::acceptsAStartIndexUpToThirtyThousand()
-{
-    TestModel model;
-    QSignalSpy dirty(&model, &FramesModel::changed);
-    model.setStartIndex(30000);
-    QCOMPARE(model.startIndex(), 30000);
-    QCOMPARE(dirty.count(), 1);
-    LogLines log;
-    model.setStartIndex(30001);
-    model.setStartIndex(-1);
-    QCOMPARE(log.take(), QStringList({"Wrong start index: 30001", "Wrong start index: -1"}));
-    QCOMPARE(model.startIndex(), 30000);
-    QCOMPARE(dirty.count(), 1);
-}
-
-void tst_FramesModel::cutsTheRateToTwoDecimals_data()
-{
-    QTest::addColumn<qreal>("written");
-    QTest::addColumn<qreal>("stored");
-    QTest::newRow("cut") << 12.999 << 12.99;
-    QTest::newRow("stands") << 8.2 << 8.2;
-    QTest::newRow("film") << 23.976 << 23.97;
-    QTest::newRow("whole") << 24.0 << 24.0;
-    QTest::newRow("not a number") << qQNaN() << 25.0;
-    QTest::newRow("endless") << qInf() << 25.0;
-}
-
-void tst_FramesModel::cutsTheRateToTwoDecimals()
-{
-    QFETCH(qreal, written);
-    QFETCH(qreal, stored);
-    TestModel model;
-    model.setTimelineFps(written);
-    QCOMPARE(model.timelineFps(), stored);
-    model.setTimelineFps(model.timelineFps());
-    QCOMPARE(model.timelineFps(), stored);
-}
-
-void tst_FramesModel::hasNoDurationForARangeOfOneFrame()
-{
-    TestModel model(10);
-    model.setTimelineRangeEnd(9);
-    QCOMPARE(model.interval(), 40.0);
-    model.setTimelineRangeStart(4);
-    model.setTimelineRangeEnd(4);
-    QCOMPARE(model.timelineRangeSize(), 0);
-    QCOMPARE(model.duration(), 0.0);
-    model.setTimelineFps(10);
-    QCOMPARE(model.interval(), 40.0);
-}
-
-void tst_FramesModel::computesDurationAndInterval()
-{
-    TestModel model(10);
-    model.setTimelineRangeStart(0);
-    model.setTimelineRangeEnd(9);
-    QCOMPARE(model.timelineRangeSize(), 10);
-    QCOMPARE(model.duration(), 400.0);
-    model.setTimelineFps(24);
-    QCOMPARE(model.interval(), 41.0);
-    QCOMPARE(model.duration(), 10 / 24.0 * 1000);
-}
-
-void tst_FramesModel::hasNoIntervalWithoutARate()
-{
-    TestModel model(10);
-    model.setTimelineRangeEnd(9);
-    LogLines log;
-    model.setTimelineFps(0);
-    QCOMPARE(log.take(), QStringList{"Unable start playing. Timeline Fps = 0"});
-    QCOMPARE(model.interval(), 0.0);
-    QCOMPARE(model.duration(), 0.0);
-}
-
-void tst_FramesModel::repairsTheRangeAfterEachRowChange()
-{
-    TestModel model(10);
-    model.setTimelineRangeStart(8);
-    model.setTimelineRangeEnd(9);
-    for (int i = 0; i < 5; ++i)
-        model.removeSingleFrame(model.last());
-    QCOMPARE(model.timelineRangeStart(), 0);
-    QCOMPARE(model.timelineRangeEnd(), 4);
-    QCOMPARE(model.currentIndex(), 4);
-    model.setTimelineRangeStart(3);
-    model.setTimelineRangeEnd(1);
-    model.appendFrame({});
-    QCOMPARE(model.timelineRangeStart(), 1);
-    QCOMPARE(model.timelineRangeEnd(), 1);
-}
-
-void tst_FramesModel::emitsAllThreeWhenItChecksTheRange()
-{
-    TestModel model(3);
-    SignalOrder order;
-    order.watch(&model, &FramesModel::currentIndexChanged, "current");
-    order.watch(&model, &FramesModel::timelineRangeStartChanged, "start");
-    order.watch(&model, &FramesModel::timelineRangeEndChanged, "end");
-    QSignalSpy dirty(&model, &FramesModel::changed);
-    model.calculateRange({}, 0, 0);
-    QCOMPARE(order.take(), QStringList({"current", "start", "end"}));
-    QCOMPARE(dirty.count(), 0);
-    model.setLoaded(false);
-    order.take();
-    model.calculateRange({}, 0, 0);
-    QCOMPARE(order.take(), QStringList());
-}
-
-void tst_FramesModel::takesACurrentIndexOnlyOfALoadedRow()
-{
-    TestModel model(3);
-    model.setCurrentIndex(1);
-    QCOMPARE(model.currentIndex(), 1);
-    QCOMPARE(model.pointedGuid(), 10000001);
-    QSignalSpy moved(&model, &FramesModel::currentIndexChanged);
-    LogLines log;
-    model.setCurrentIndex(3);
-    model.setCurrentIndex(-1);
-    model.setLoaded(false);
-    model.setCurrentIndex(2);
-    QCOMPARE(model.currentIndex(), 1);
-    QCOMPARE(moved.count(), 0);
-    QCOMPARE(log.take(), QStringList());
-}
-
-void tst_FramesModel::ignoresABadPointedGuid()
-{
-    TestModel model(3);
-    QSignalSpy pointed(&model, &FramesModel::currentGuidChanged);
-    LogLines log;
-    model.setPointedGuid(-1);
-    QCOMPARE(log.take(), QStringList{"setPointedGuid: bad guid -1"});
-    QCOMPARE(model.pointedGuid(), 10000002);
-    model.setPointedGuid(77777777);
-    model.setPointedGuid(77777777);
-    QCOMPARE(model.pointedGuid(), 77777777);
-    QCOMPARE(pointed.count(), 1);
-}
-
-void tst_FramesModel::refreshesTheCurrentStringsInOrder()
-{
-    TestModel model;
-    model.appendFrame(
-        {{"capFull", "cf"}, {"capTumb", "ct"}, {"refFull", "rf"}, {"refTumb", "rt"}, {"mirrored", true}});
-    SignalOrder order;
-    order.watch(&model, &FramesModel::aboutToGoToNetFrame, "about");
-    order.watch(&model, &FramesModel::currentCapturedThumbChanged, model.currentCapturedThumb());
-    order.watch(&model, &FramesModel::currentReferenceThumbChanged, model.currentReferenceThumb());
-    order.watch(&model, &FramesModel::hasCapturedChanged, "hasCaptured");
-    order.watch(&model, &FramesModel::currentCapturedChanged, model.currentCaptured());
-    order.watch(&model, &FramesModel::hasReferenceChanged, "hasReference");
-    order.watch(&model, &FramesModel::currentReferenceChanged, model.currentReference());
-    order.watch(&model, &FramesModel::currentMirroredChanged, "mirrored");
-    model.setCurrentImages();
-    QCOMPARE(order.take(),
-             QStringList({"about", "ct", "rt", "hasCaptured", "cf", "hasReference", "rf", "mirrored"}));
-    QVERIFY(model.hasCaptured() && model.hasReference() && model.currentMirrored());
-    model.setLoaded(false);
-    order.take();
-    model.setCurrentImages();
-    QCOMPARE(order.take(), QStringList());
-}
-
-void tst_FramesModel::sharesTheCurrentNamesWithTheCaptureSide()
-{
-    TestModel model(3);
-    model.setCurrentIndex(1);
-    QCOMPARE(CurrentImageNames::captured(), QString("c1"));
-    QCOMPARE(CurrentImageNames::reference(), QString());
-    model.setData(model.index(1), "r1", Zum::RefFull);
-    model.setCurrentIndex(1);
-    QCOMPARE(CurrentImageNames::reference(), QString("r1"));
-}
-
 void tst_FramesModel::readsFalseForAddingWhileThereAreNoFrames()
 {
     TestModel model;
@@ -593,40 +392,6 @@ void tst_FramesModel::keepsTheNumberOfCopiesInItsLimits()
     for (const int quantity : {9, 0, 10, -1})
         model.setDuplicateQuantity(quantity);
     QCOMPARE(model.duplicateQuantity(), 9);
-}
-
-void tst_FramesModel::marksTheProjectDirtyByTheRightSettings()
-{
-    TestModel model(5);
-    QSignalSpy dirty(&model, &FramesModel::changed);
-    model.setTimelineRangeEnd(3);
-    model.setTimelineRangeStart(1);
-    model.setTimelineFps(12);
-    model.setLoop(false);
-    model.setPendulum(true);
-    QCOMPARE(dirty.count(), 5);
-    model.setPlayDirection(Zum::Backward);
-    model.setPlayingCaptured(false);
-    model.setDoubleDecker(true);
-    model.setCurrentIndex(2);
-    QCOMPARE(dirty.count(), 5);
-}
-
-void tst_FramesModel::makesTheLastRowCurrentWhenLoaded()
-{
-    TestModel model(4, false);
-    QCOMPARE(model.undoCount(), 0);
-    QCOMPARE(model.currentCaptured(), QString());
-    SignalOrder order;
-    order.watch(&model, &FramesModel::currentIndexChanged, "current");
-    order.watch(&model, &FramesModel::loadedChanged, "loaded");
-    model.setLoaded(true);
-    QCOMPARE(model.currentIndex(), 3);
-    QCOMPARE(model.pointedGuid(), 10000003);
-    QCOMPARE(model.currentCaptured(), QString("c3"));
-    QCOMPARE(order.take().first(), QString("current"));
-    model.setLoaded(false);
-    QCOMPARE(order.take(), QStringList{"loaded"});
 }
 
 void tst_FramesModel::forgetsSelectionAndUndoWithLoading()

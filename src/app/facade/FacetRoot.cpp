@@ -2,7 +2,8 @@
 
 #include "app/AppControllers.h"
 
-FacetRoot::FacetRoot(std::unique_ptr<AppControllers> controllers) : m_controllers(std::move(controllers))
+FacetRoot::FacetRoot(std::unique_ptr<AppControllers> controllers)
+    : QQuickView(controllers->environment.engine, nullptr), m_controllers(std::move(controllers))
 {
 }
 

@@ -9,6 +9,7 @@ CurrentFrame::CurrentFrame(QObject *parent) : ActionState(parent)
     connect(this, &CurrentFrame::countChanged, this, &CurrentFrame::calculateRange, Qt::UniqueConnection);
     connect(this, &CurrentFrame::currentIndexChanged, this, &CurrentFrame::setCurrentImages,
             Qt::DirectConnection);
+    connect(this, &QAbstractItemModel::rowsRemoved, this, &CurrentFrame::forgetImagesOfNoFrame);
 }
 
 void CurrentFrame::setCurrentIndex(int row)
@@ -56,7 +57,13 @@ void CurrentFrame::setLoaded(bool loaded)
 void CurrentFrame::setCurrentImages()
 {
     if (loaded() && isRow(m_currentIndex))
-        refreshCurrent();
+        refreshCurrent(frameAt(m_currentIndex));
+}
+
+void CurrentFrame::forgetImagesOfNoFrame()
+{
+    if (frames().isEmpty())
+        refreshCurrent(Frame());
 }
 
 void CurrentFrame::calculateRange(const QModelIndex &, int, int)
@@ -91,11 +98,10 @@ void CurrentFrame::refreshCurrentWithin(int a, int b)
         setCurrentImages();
 }
 
-void CurrentFrame::refreshCurrent()
+/// Takes a copy: listeners may change the rows between two signals.
+void CurrentFrame::refreshCurrent(Frame frame)
 {
     emit aboutToGoToNetFrame();
-    // A copy: listeners may change the rows between two signals.
-    const Frame frame = frameAt(m_currentIndex);
     m_currentCapturedThumb = frame.capTumb;
     emit currentCapturedThumbChanged();
     m_currentReferenceThumb = frame.refTumb;

@@ -103,7 +103,8 @@ protected:
     void refreshCurrentWithin(int a, int b);
 
 private:
-    void refreshCurrent();
+    void refreshCurrent(Frame frame);
+    void forgetImagesOfNoFrame();
 
     QString m_currentCapturedThumb;
     QString m_currentCaptured;

@@ -11,17 +11,26 @@ bool isStepAction(int action)
            || action == Zum::ActDuplicateFrames || action == Zum::ActMoveFrames;
 }
 
+/// What the progress bar says of an action; nothing for those that are too short for it.
 QString labelOf(int action)
 {
     switch (action) {
         case Zum::ActDelete:
             return QCoreApplication::translate("FramesModel", "Delete");
+        case Zum::ActSelect:
+            return QCoreApplication::translate("FramesModel", "Select");
+        case Zum::ActDismiss:
+            return QCoreApplication::translate("FramesModel", "Dismiss");
         case Zum::ActDuplicateAndMoveFrames:
             return QCoreApplication::translate("FramesModel", "Duplicate and move");
         case Zum::ActDuplicateFrames:
             return QCoreApplication::translate("FramesModel", "Duplicate");
         case Zum::ActMoveFrames:
             return QCoreApplication::translate("FramesModel", "Move");
+        case Zum::ActSearchStaticness:
+            return QCoreApplication::translate("FramesModel", "Search for staticness");
+        case Zum::ActSearchHiddenFrames:
+            return QCoreApplication::translate("FramesModel", "Preparing playback");
         default:
             return {};
     }
@@ -134,6 +143,9 @@ void FrameBatches::actOnFrame(int action, int row)
         case Zum::ActSelect:
             switchSelection(row, false);
             break;
+        case Zum::ActDismiss:
+            setData(index(row), false, Zum::Ingroup);
+            break;
         case Zum::ActHideFrames:
             setData(index(row), !frameAt(row).hidden, Zum::Hidden);
             break;
@@ -143,8 +155,10 @@ void FrameBatches::actOnFrame(int action, int row)
         case Zum::ActClearReference:
             clearFrame(row, Clearing::Reference);
             break;
-        default:
+        case Zum::ActClearFrameContents:
             clearFrame(row, Clearing::Both);
+            break;
+        default:
             break;
     }
 }
@@ -191,7 +205,7 @@ void FrameBatches::scanCompleted()
 
 void FrameBatches::actionOnSelectedFrames(int action)
 {
-    if (!acceptsActions() || !isStepAction(action))
+    if (!acceptsActions() || action == Zum::ActNoAction)
         return;
     const QList<int> guids = selection().guids();
     if (!batch().beginSteps(action, labelOf(action), int(guids.size())))
@@ -202,11 +216,20 @@ void FrameBatches::actionOnSelectedFrames(int action)
             [this, action] { stepsCompleted(action); });
         return;
     }
-    batch().runSteps([this, action, guids](int position) { return stepOnFrame(action, guids.at(position)); },
-                     [this, action] { stepsCompleted(action); });
+    batch().runSteps(
+        [this, action, guids](int position) {
+            stepOnFrame(action, guids.at(position));
+            return true;
+        },
+        [this, action] {
+            if (isStepAction(action))
+                stepsCompleted(action);
+            else
+                actionCompleted(action);
+        });
 }
 
-bool FrameBatches::stepOnFrame(int action, int guid)
+void FrameBatches::stepOnFrame(int action, int guid)
 {
     if (action == Zum::ActDuplicateFrames) {
         emit disconnectModel();
@@ -216,8 +239,16 @@ bool FrameBatches::stepOnFrame(int action, int guid)
     if (action == Zum::ActDelete) {
         if (from >= 0)
             removeSingleFrame(from, true, false);
-        return true;
+    } else if (isStepAction(action)) {
+        placeFrame(action, from);
+    } else if (isSelectionAction(action)) {
+        actOnFrame(action, from);
     }
+}
+
+/// Moves or copies a frame to where the user points, or copies it in place.
+void FrameBatches::placeFrame(int action, int from)
+{
     int to = from;
     if (Frame::isGuid(pointedGuid()))
         to = frames().rowOf(pointedGuid());
@@ -229,7 +260,6 @@ bool FrameBatches::stepOnFrame(int action, int guid)
         duplicateSingleFrame(from, Zum::CaptureModeAppend, to, false, -1);
     else
         duplicateSingleFrame(from, Zum::CaptureModeAppend, from, false, -1);
-    return true;
 }
 
 void FrameBatches::stepsCompleted(int action)

@@ -41,7 +41,8 @@ public:
     /// Drops a running action where it stands, as a project does that goes away.
     void clearPendingAction();
 
-    /// Delete, duplicate, move, and duplicate and move: one undo record per frame, one step after the other.
+    /// Delete, duplicate, move, and duplicate and move: one undo record per frame, one step after the other,
+    /// with progress. A delete with nothing selected takes the current frame.
     Q_INVOKABLE void actionOnSelectedFrames(int action);
     Q_INVOKABLE void cleanSelectedCapFrames();
     Q_INVOKABLE void cleanSelectedRefFrames();
@@ -67,7 +68,8 @@ private:
     bool startOnSelected(int action);
     bool startOnRange(int action, int from, int to);
     void actOnFrame(int action, int row);
-    bool stepOnFrame(int action, int guid);
+    void stepOnFrame(int action, int guid);
+    void placeFrame(int action, int from);
     void dismissNow();
     void scanHolds(HoldScan::Range range);
     void applyHolds(const std::shared_ptr<Scan> &scan);

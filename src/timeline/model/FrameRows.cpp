@@ -145,7 +145,6 @@ void FrameRows::moveFrameRow(int from, int to)
         // one row above where it is.
         emit layoutAboutToBeChanged({}, VerticalSortHint);
         swapPersistentRows(to - 1, to);
-        announceData(to - 1, to);
         emit layoutChanged({}, VerticalSortHint);
     }
 }

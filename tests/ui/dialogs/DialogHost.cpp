@@ -116,10 +116,15 @@ bool DialogHost::isOpen() const
 
 QQuickItem *DialogHost::part(const QString &objectName) const
 {
-    QQuickItem *found = nullptr;
+    return parts(objectName).value(0);
+}
+
+QList<QQuickItem *> DialogHost::parts(const QString &objectName) const
+{
+    QList<QQuickItem *> found;
     visitShown(dialog(), [&](QQuickItem *item) {
-        if (!found && item->objectName() == objectName)
-            found = item;
+        if (item->objectName() == objectName)
+            found.append(item);
     });
     return found;
 }
@@ -183,15 +188,15 @@ void DialogHost::clickText(const QString &text)
 QStringList DialogHost::textsOutside() const
 {
     QStringList outside;
-    const QQuickItem *box = dialog();
-    const QRectF shown = box->mapRectToScene(box->boundingRect());
-    const QSizeF size = host.root()->size();
+    const QRectF box = dialog()->mapRectToScene(dialog()->boundingRect());
+    if (!QRectF(QPointF(0, 0), host.root()->size()).contains(box))
+        outside.append(dialog()->property("heading").toString());
     visitShown(dialog(), [&](QQuickItem *item) {
         if (!isText(item))
             return;
-        const QRectF area = item->mapRectToScene({0, 0, item->property("contentWidth").toReal(), 1});
-        if (area.left() < shown.left() - 0.5 || area.right() > shown.right() + 0.5 || shown.left() < 0
-            || shown.right() > size.width() || shown.top() < 0 || shown.bottom() > size.height())
+        const qreal wanted = item->property("contentWidth").toReal();
+        const QRectF area = item->mapRectToScene(item->boundingRect());
+        if (wanted > item->width() + 1 || area.left() < box.left() || area.right() > box.right())
             outside.append(item->property("text").toString());
     });
     return outside;

@@ -40,6 +40,8 @@ public:
 
     /// The part of the open dialog with that object name.
     QQuickItem *part(const QString &objectName) const;
+    /// All shown parts with that object name.
+    QList<QQuickItem *> parts(const QString &objectName) const;
     /// Where one types in a part that is a field.
     QQuickItem *editor(const QString &partName) const;
     /// All shown texts of the open dialog, top to bottom.
@@ -51,7 +53,8 @@ public:
     void clickText(const QString &text);
     /// What shows the text in the dialog, or in one of its parts; null when nothing does.
     QQuickItem *textItem(const QString &text, const QString &partName = {}) const;
-    /// Texts of the dialog that reach out of the window or of the dialog's box.
+    /// Texts that reach out of their own item or of the dialog's box; its heading when the box reaches out of
+    /// the window.
     QStringList textsOutside() const;
 
     ControlHost host;

@@ -61,8 +61,9 @@ void TestPropertiesDialog::init()
 
 void TestPropertiesDialog::cleanup()
 {
-    QCOMPARE(d->host.warnings(), QStringList());
+    const QStringList warnings = d->host.warnings();
     d.reset();
+    QCOMPARE(warnings, QStringList());
 }
 
 void TestPropertiesDialog::chooseIn(const QString &row, const QString &text)

@@ -53,9 +53,10 @@ void TestScene::everyFileOfTheSceneCompiles()
 void TestScene::everyTabAndFormShowsWithoutAWarning()
 {
     ShellWindow shell;
-    for (const char *state : {"captureUIisOn", "captureUIisOn_compacted", "captureUIisOn_maximized", "timingUIisOn",
-                              "timingUIisOn_compacted", "timingUIisOn_maximized", "playbackUIisOn",
-                              "playbackUIisOn_compacted", "playbackUIisOn_maximized", "docsUIisOn", "captureUIisOn"}) {
+    for (const char *state :
+         {"captureUIisOn", "captureUIisOn_compacted", "captureUIisOn_maximized", "timingUIisOn",
+          "timingUIisOn_compacted", "timingUIisOn_maximized", "playbackUIisOn", "playbackUIisOn_compacted",
+          "playbackUIisOn_maximized", "docsUIisOn", "captureUIisOn"}) {
         shell.global().setMainTabsState(QString::fromLatin1(state));
         QVERIFY(!shell.window().grabWindow().isNull());
     }

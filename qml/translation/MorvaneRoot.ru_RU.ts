@@ -1,0 +1,368 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU">
+<context>
+    <name>Dialog</name>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>FirstSteps</name>
+    <message>
+        <source>Create New Project</source>
+        <translation>Новый проект</translation>
+    </message>
+    <message>
+        <source>No project</source>
+        <translation>Нет проекта</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Открыть проект</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Недавние проекты</translation>
+    </message>
+</context>
+<context>
+    <name>MainControlBox</name>
+    <message>
+        <source>About the program</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>Application settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Create a new project</source>
+        <translation>Новый проект</translation>
+    </message>
+    <message>
+        <source>Open a project</source>
+        <translation>Открыть проект</translation>
+    </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>Недавние проекты</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Вернуть</translation>
+    </message>
+    <message>
+        <source>Save the project</source>
+        <translation>Сохранить проект</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+</context>
+<context>
+    <name>MenuList</name>
+    <message>
+        <source>Menu</source>
+        <translation>Меню</translation>
+    </message>
+</context>
+<context>
+    <name>MenuListBox</name>
+    <message>
+        <source>Clear Settings</source>
+        <translation>Сбросить настройки</translation>
+    </message>
+    <message>
+        <source>Create New Project</source>
+        <translation>Новый проект</translation>
+    </message>
+    <message>
+        <source>Main menu</source>
+        <translation>Главное меню</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Открыть проект</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Недавние проекты</translation>
+    </message>
+    <message>
+        <source>Save Project As</source>
+        <translation>Сохранить проект как</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Сохранить проект</translation>
+    </message>
+</context>
+<context>
+    <name>MorvaneRoot</name>
+    <message>
+        <source>Hide the titles</source>
+        <translation>Спрятать заголовки</translation>
+    </message>
+    <message>
+        <source>No documents</source>
+        <translation>Нет документов</translation>
+    </message>
+    <message>
+        <source>Open in the web browser</source>
+        <translation>Открыть в браузере</translation>
+    </message>
+    <message>
+        <source>Read again</source>
+        <translation>Прочитать заново</translation>
+    </message>
+    <message>
+        <source>Read the documents again</source>
+        <translation>Прочитать документы заново</translation>
+    </message>
+    <message>
+        <source>Return to normal state</source>
+        <translation>Вернуть обычный вид</translation>
+    </message>
+    <message>
+        <source>Show the titles</source>
+        <translation>Показать заголовки</translation>
+    </message>
+    <message>
+        <source>The file with the documents was not found or could not be read.</source>
+        <translation>Файл с документами не найден, или его нельзя прочитать.</translation>
+    </message>
+    <message>
+        <source>This version cannot import pictures yet.</source>
+        <translation>Эта версия пока не умеет импортировать изображения.</translation>
+    </message>
+    <message>
+        <source>This version has no preview window yet.</source>
+        <translation>Окна просмотра в этой версии пока нет.</translation>
+    </message>
+    <message>
+        <source>Titles</source>
+        <translation>Заголовки</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectPane</name>
+    <message>
+        <source>Animator&apos;s name</source>
+        <translation>Имя аниматора</translation>
+    </message>
+    <message>
+        <source>Animator&apos;s surname</source>
+        <translation>Фамилия аниматора</translation>
+    </message>
+    <message>
+        <source>Choose a frame size and rate from a list</source>
+        <translation>Выбрать обычный размер кадра и скорость</translation>
+    </message>
+    <message>
+        <source>Director</source>
+        <translation>Режиссёр</translation>
+    </message>
+    <message>
+        <source>Film</source>
+        <translation>Фильм</translation>
+    </message>
+    <message>
+        <source>Frame height</source>
+        <translation>Высота кадра</translation>
+    </message>
+    <message>
+        <source>Frame width</source>
+        <translation>Ширина кадра</translation>
+    </message>
+    <message>
+        <source>Frames per second</source>
+        <translation>Кадров в секунду</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Слой</translation>
+    </message>
+    <message>
+        <source>No project is open. Its frame size, rate and names are set here.</source>
+        <translation>Проект не открыт. Здесь задают размер кадра, скорость и названия.</translation>
+    </message>
+    <message>
+        <source>Number of the first frame</source>
+        <translation>Номер первого кадра</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Заготовки</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Проект</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>Сцена</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Название</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectStatus</name>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 к/с</translation>
+    </message>
+    <message>
+        <source>%1 frames</source>
+        <translation>Кадров: %1</translation>
+    </message>
+    <message>
+        <source>No project</source>
+        <translation>Нет проекта</translation>
+    </message>
+</context>
+<context>
+    <name>SceneProject</name>
+    <message>
+        <source>Project already loaded</source>
+        <translation>Проект уже загружен</translation>
+    </message>
+    <message>
+        <source>Project file not found</source>
+        <translation>Не найден файл проекта</translation>
+    </message>
+    <message>
+        <source>Project loaded</source>
+        <translation>Проект загружен</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenArea</name>
+    <message>
+        <source>Frames that are captured go into a project: one file and a folder beside it.</source>
+        <translation>Снятые кадры складываются в проект: один файл и папка рядом с ним.</translation>
+    </message>
+    <message>
+        <source>No video</source>
+        <translation>Нет видео</translation>
+    </message>
+    <message>
+        <source>The project is ready. This version cannot connect a camera yet.</source>
+        <translation>Проект готов. Подключать камеру эта версия пока не умеет.</translation>
+    </message>
+    <message>
+        <source>The timing of frames is set in a project.</source>
+        <translation>Порядок и длительность кадров задают в проекте.</translation>
+    </message>
+    <message>
+        <source>This version cannot play videos yet.</source>
+        <translation>Воспроизводить видео эта версия пока не умеет.</translation>
+    </message>
+    <message>
+        <source>This version cannot show the pictures of the timeline yet.</source>
+        <translation>Показывать кадр крупно эта версия пока не умеет.</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBar</name>
+    <message>
+        <source>Alt + drag</source>
+        <translation>Alt + тянуть</translation>
+    </message>
+    <message>
+        <source>Ctrl + D</source>
+        <translation>Ctrl + D</translation>
+    </message>
+    <message>
+        <source>Ctrl + Left click</source>
+        <translation>Ctrl + щелчок</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Middle mouse button + drag</source>
+        <translation>Средняя кнопка</translation>
+    </message>
+    <message>
+        <source>Shift + Left click</source>
+        <translation>Shift + щелчок</translation>
+    </message>
+    <message>
+        <source>cancel</source>
+        <translation>отменить</translation>
+    </message>
+    <message>
+        <source>duplicate</source>
+        <translation>дублировать</translation>
+    </message>
+    <message>
+        <source>move frames</source>
+        <translation>переместить кадры</translation>
+    </message>
+    <message>
+        <source>move the view</source>
+        <translation>сдвинуть вид</translation>
+    </message>
+    <message>
+        <source>select a frame</source>
+        <translation>выделить кадр</translation>
+    </message>
+    <message>
+        <source>select up to here</source>
+        <translation>выделить ряд</translation>
+    </message>
+</context>
+<context>
+    <name>TopLine</name>
+    <message>
+        <source>Capture</source>
+        <translation>Съёмка</translation>
+    </message>
+    <message>
+        <source>Docs</source>
+        <translation>Справка</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Полный экран</translation>
+    </message>
+    <message>
+        <source>Hide the right panel</source>
+        <translation>Спрятать правую панель</translation>
+    </message>
+    <message>
+        <source>Leave full screen</source>
+        <translation>Выйти из полного экрана</translation>
+    </message>
+    <message>
+        <source>Only the picture</source>
+        <translation>Только изображение</translation>
+    </message>
+    <message>
+        <source>Return to normal state</source>
+        <translation>Вернуть обычный вид</translation>
+    </message>
+    <message>
+        <source>Show the right panel</source>
+        <translation>Показать правую панель</translation>
+    </message>
+    <message>
+        <source>Timing</source>
+        <translation>Тайминг</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Видео</translation>
+    </message>
+</context>
+</TS>
