@@ -61,8 +61,9 @@ FocusScope {
         asynchronous: false
         source: dialog.active ? "qrc:/" + MainWindow.qmlDialogUrl : ""
         onStatusChanged: {
+            // Later: the name is still being taken over.
             if (status === Loader.Error)
-                dialog.close();
+                Qt.callLater(dialog.close);
         }
 
         // Keeps clicks beside the dialog's controls from the curtain.

@@ -110,6 +110,8 @@ SceneDevices {
         anchors.right: controlsPanesBox.left
         anchors.top: topLine.bottom
         anchors.bottom: timelineBox.top
+        // Scaling leaves the timeline's place as it is, so the picture takes what it sets free.
+        anchors.bottomMargin: (timelineBox.scale - 1) * timelineBox.height
         visible: tabRules.screenShown
         scene: appWindow
         onWidthChanged: appWindow.rescale()
@@ -117,6 +119,8 @@ SceneDevices {
     }
 
     DocsView {
+        id: docsView
+
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: topLine.bottom
@@ -149,9 +153,11 @@ SceneDevices {
     TimelineBox {
         id: timelineBox
 
-        anchors.left: parent.left
-        anchors.right: parent.right
+        anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: statusBar.top
+        width: parent.width / scale
+        scale: tabRules.compacted ? 0.8 : 1
+        transformOrigin: Item.Bottom
         visible: tabRules.timelineShown
         compactMode: tabRules.compacted
         rangeControlVisible: tabRules.timing

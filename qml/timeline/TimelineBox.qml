@@ -13,7 +13,7 @@ Rectangle {
     readonly property bool allowManipulate: FramesModel.framesCount > 0 && !FramesModel.playing
                                             && (FramesModel.selectedCount > 0 || FramesModel.pointedGuid >= 0)
     readonly property int wantedHeight: compactMode
-        ? 140 * 0.8
+        ? 140
         : Math.min(MainWindow.timelineH * (WebcamGlobal.timelineCompact ? 0.78 : 1), parent.height * 0.36)
 
     function copyFrames() {

@@ -2,7 +2,10 @@
 
 #include "app/TypeRegistry.h"
 
+#include <QQmlContext>
 #include <QQmlEngine>
+#include <QQmlExpression>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace {
@@ -16,6 +19,15 @@ void keepSceneWarnings(QtMsgType type, const QMessageLogContext &context, const 
     if (s_warnings != nullptr && type == QtWarningMsg && text.contains(QLatin1String("qrc:/")))
         s_warnings->append(text);
     s_before(type, context, text);
+}
+
+QVariant evaluated(QQuickItem *scope, const QString &expression)
+{
+    QQmlExpression asked(qmlContext(scope), scope, expression);
+    const QVariant value = asked.evaluate();
+    if (asked.hasError())
+        QTest::qFail(qPrintable(asked.error().toString()), __FILE__, __LINE__);
+    return value;
 }
 
 } // namespace
@@ -74,7 +86,10 @@ void ShellWindow::build(const Options &options)
 
     m_window = std::make_unique<MainWindow>(std::make_unique<AppControllers>(std::move(environment)),
                                             options.arguments);
-    m_window->resize(options.size);
+    if (options.size.isValid())
+        m_window->resize(options.size);
+    if (!options.shown)
+        return;
     m_window->show();
     m_window->requestActivate();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
@@ -106,9 +121,50 @@ QQuickItem *ShellWindow::findItem(const char *property, const QVariant &value, Q
     return nullptr;
 }
 
+QVariant ShellWindow::evaluate(const QString &expression) const
+{
+    return evaluated(m_window->rootObject(), expression);
+}
+
+QVariant ShellWindow::evaluateInside(QQuickItem *item, const QString &expression) const
+{
+    return evaluated(item->childItems().constFirst(), expression);
+}
+
+QQuickItem *ShellWindow::item(const QString &id) const
+{
+    return evaluate(id).value<QQuickItem *>();
+}
+
+QObject *ShellWindow::timer(int intervalMs) const
+{
+    QList<QObject *> found;
+    const QList<QObject *> all = m_window->rootObject()->findChildren<QObject *>();
+    for (QObject *object : all) {
+        if (object->inherits("QQmlTimer") && object->property("interval") == intervalMs)
+            found.append(object);
+    }
+    return found.size() == 1 ? found.constFirst() : nullptr;
+}
+
+QStringList ShellWindow::messages() const
+{
+    return evaluate(QStringLiteral("Array.from({length: messagesModel.count}, "
+                                   "(_, i) => messagesModel.get(i).text)"))
+        .toStringList();
+}
+
+bool ShellWindow::settle() const
+{
+    QSignalSpy frames(m_window.get(), &QQuickWindow::frameSwapped);
+    m_window->update();
+    return frames.wait(2000);
+}
+
 void ShellWindow::click(QQuickItem *item, Qt::MouseButton button)
 {
     QVERIFY(item != nullptr);
+    QVERIFY(settle());
     const QPointF middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
     QTest::mouseClick(m_window.get(), button, Qt::NoModifier, middle.toPoint());
 }

@@ -21,8 +21,10 @@ public:
         QString locale = QStringLiteral("en_US");
         /// Written to the settings before the window is made.
         QVariantMap settings;
+        /// Invalid to leave the window as the program makes it.
         QSize size{1280, 760};
         int logicalDpi = 96;
+        bool shown = true;
         /// A settings file to use instead of a fresh one.
         QString settingsPath;
     };
@@ -81,7 +83,19 @@ public:
     /// The first item of the scene, in depth-first order, for which the property has the value; null for
     /// none.
     QQuickItem *findItem(const char *property, const QVariant &value, QQuickItem *from = nullptr) const;
-    /// Clicks into the middle of a visible item.
+    /// What an expression of the scene gives, with the names that the scene's root file knows.
+    QVariant evaluate(const QString &expression) const;
+    /// The same with the names that the file of this item's own children knows.
+    QVariant evaluateInside(QQuickItem *item, const QString &expression) const;
+    /// The item of that id in the scene's root file.
+    QQuickItem *item(const QString &id) const;
+    /// The scene's one timer of that interval; null for none or several.
+    QObject *timer(int intervalMs) const;
+    /// The texts of the message list, the newest first.
+    QStringList messages() const;
+    /// Waits for the next frame: only then do things stand where they belong after a change.
+    bool settle() const;
+    /// Clicks into the middle of a visible item, once it stands where it belongs.
     void click(QQuickItem *item, Qt::MouseButton button = Qt::LeftButton);
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
