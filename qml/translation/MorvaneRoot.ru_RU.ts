@@ -190,10 +190,6 @@
         <translation>Слой</translation>
     </message>
     <message>
-        <source>No project is open. Its frame size, rate and names are set here.</source>
-        <translation>Проект не открыт. Здесь задают размер кадра, скорость и названия.</translation>
-    </message>
-    <message>
         <source>Number of the first frame</source>
         <translation>Номер первого кадра</translation>
     </message>
