@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QLibraryInfo>
 #include <QTranslator>
 
 namespace translations {
@@ -43,6 +44,11 @@ int install(const QString &locale, QObject *owner)
 {
     const QString folder = QStringLiteral(":/translation/");
     int installed = 0;
+    // The words of the toolkit's own dialogs, where the system has them.
+    auto *toolkit = new QTranslator(owner);
+    if (toolkit->load(QStringLiteral("qtbase_") + locale.section(QLatin1Char('_'), 0, 0),
+                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(toolkit);
     for (const QString &name : names()) {
         const QString file = folder + name + QLatin1Char('.') + locale + QStringLiteral(".qm");
         if (!QFile::exists(file))

@@ -46,6 +46,7 @@ int main(int argc, char *argv[])
     // The program's own folder comes first; the system's stays, for the image formats and the platform.
     QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath());
     QCoreApplication::processEvents();
+    QLocale::setDefault(QLocale(locale));
     translations::install(locale, &app);
 
     int result = 0;
