@@ -1,5 +1,6 @@
 #include "app/Translations.h"
 
+#include <memory>
 #include <QCoreApplication>
 #include <QFile>
 #include <QLibraryInfo>
@@ -45,10 +46,12 @@ int install(const QString &locale, QObject *owner)
     const QString folder = QStringLiteral(":/translation/");
     int installed = 0;
     // The words of the toolkit's own dialogs, where the system has them.
-    auto *toolkit = new QTranslator(owner);
+    auto toolkit = std::make_unique<QTranslator>();
     if (toolkit->load(QStringLiteral("qtbase_") + locale.section(QLatin1Char('_'), 0, 0),
-                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(toolkit);
+                      QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        toolkit->setParent(owner);
+        QCoreApplication::installTranslator(toolkit.release());
+    }
     for (const QString &name : names()) {
         const QString file = folder + name + QLatin1Char('.') + locale + QStringLiteral(".qm");
         if (!QFile::exists(file))
