@@ -180,8 +180,9 @@ Rectangle {
         active: MainWindow.projectLoaded
         visible: !timeline.compactMode
         height: visible && item ? item.implicitHeight : 0
+        // By another way than its name, which is also that of the property.
         sourceComponent: TimelineControls {
-            timeline: timeline
+            timeline: controls.parent
         }
     }
 
