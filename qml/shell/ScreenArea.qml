@@ -14,6 +14,7 @@ Item {
 
         anchors.fill: parent
         active: WebcamGlobal.currentActiveTab === Zum.CaptureTab
+        visible: active
         sourceComponent: FirstSteps {
             scene: screenArea.scene
             text: qsTr("Frames that are captured go into a project: one file and a folder beside it.")
@@ -26,6 +27,7 @@ Item {
 
         anchors.fill: parent
         active: WebcamGlobal.currentActiveTab === Zum.TimingTab
+        visible: active
         sourceComponent: FirstSteps {
             scene: screenArea.scene
             text: qsTr("The timing of frames is set in a project.")
@@ -38,6 +40,7 @@ Item {
 
         anchors.fill: parent
         active: WebcamGlobal.currentActiveTab === Zum.VideoTab
+        visible: active
         sourceComponent: EmptyState {
             icon: "svgicons/video.svg"
             title: qsTr("No video")

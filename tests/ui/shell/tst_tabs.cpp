@@ -102,6 +102,7 @@ void TestTabs::state()
     QFETCH(QStringList, hidden);
     const QString name = QTest::currentDataTag();
     ShellWindow shell;
+    QVERIFY(shell.createProject());
     // Come from elsewhere, so that the state's own rules are at work.
     shell.global().setMainTabsState(name == "docsUIisOn" ? "captureUIisOn" : "docsUIisOn");
     shell.global().setMainTabsState(name);
@@ -308,6 +309,7 @@ void TestTabs::tabsAreClicked()
 void TestTabs::buttonsOfTheTopLine()
 {
     ShellWindow shell;
+    QVERIFY(shell.createProject());
     QQuickItem *topLine = shell.item("topLine");
     shell.click(shell.findItem("icon", "svgicons/maximize.svg", topLine));
     QCOMPARE(shell.global().mainTabsState(), "captureUIisOn_maximized");
