@@ -44,7 +44,9 @@ MainWindow::MainWindow(std::unique_ptr<AppControllers> controllers, const QStrin
     emit windowSizeChanged();
     if (const QString complaint = startup::complaint(c.settings()); !complaint.isEmpty())
         c.messages.post(Zum::CommonMessage, Zum::Warning, complaint);
-    openNamedProject(arguments);
+    // Once the window stands, so that whatever opening has to ask or tell is seen over it.
+    QMetaObject::invokeMethod(
+        this, [this, arguments] { openNamedProject(arguments); }, Qt::QueuedConnection);
 }
 
 MainWindow::~MainWindow()
