@@ -3,7 +3,7 @@ import Zum 1.0
 
 // The timeline: a row of controls and the strip of frames. Holds no frame data; everything goes to the model.
 Rectangle {
-    id: timeline
+    id: timelineBox
 
     required property var scene
     property bool compactMode: false
@@ -117,7 +117,7 @@ Rectangle {
 
     Connections {
         target: WebcamGlobal
-        enabled: timeline.visible
+        enabled: timelineBox.visible
 
         function onTimelineGotoStart() {
             FramesModel.currentIndex = 0;
@@ -140,15 +140,15 @@ Rectangle {
         }
 
         function onTimelineDeleteFrames() {
-            timeline.deleteFrames();
+            timelineBox.deleteFrames();
         }
 
         function onTimelineFrameDuplicate() {
-            timeline.dublicateFrames();
+            timelineBox.dublicateFrames();
         }
 
         function onTimelineDismiss() {
-            timeline.dismiss();
+            timelineBox.dismiss();
         }
 
         function onTimelineShowAddBox() {
@@ -162,11 +162,11 @@ Rectangle {
 
         function onTimelineChanged(action) {
             if (action < 1024)
-                timeline.searchStaticness();
+                timelineBox.searchStaticness();
         }
 
         function onDublicateAndMoveFrames() {
-            timeline.dublicateAndMoveFrames();
+            timelineBox.dublicateAndMoveFrames();
         }
     }
 
@@ -178,11 +178,10 @@ Rectangle {
         anchors.right: parent.right
         anchors.top: parent.top
         active: MainWindow.projectLoaded
-        visible: !timeline.compactMode
+        visible: !timelineBox.compactMode
         height: visible && item ? item.implicitHeight : 0
-        // By another way than its name, which is also that of the property.
         sourceComponent: TimelineControls {
-            timeline: controls.parent
+            timeline: timelineBox
         }
     }
 
@@ -191,6 +190,6 @@ Rectangle {
         anchors.right: parent.right
         anchors.top: controls.bottom
         anchors.bottom: parent.bottom
-        timeline: timeline
+        timeline: timelineBox
     }
 }

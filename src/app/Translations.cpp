@@ -1,5 +1,6 @@
 #include "app/Translations.h"
 
+#include <memory>
 #include <QCoreApplication>
 #include <QFile>
 #include <QLibraryInfo>
@@ -40,15 +41,25 @@ const QStringList &names()
     return list;
 }
 
+namespace {
+
+/// The words of the toolkit's own dialogs, where the system has them.
+void installToolkitWords(const QString &locale, QObject *owner)
+{
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(QStringLiteral("qtbase_") + locale.section(QLatin1Char('_'), 0, 0),
+                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        return;
+    translator->setParent(owner);
+    QCoreApplication::installTranslator(translator.release());
+}
+
+} // namespace
+
 int install(const QString &locale, QObject *owner)
 {
     const QString folder = QStringLiteral(":/translation/");
     int installed = 0;
-    // The words of the toolkit's own dialogs, where the system has them.
-    auto *toolkit = new QTranslator(owner);
-    if (toolkit->load(QStringLiteral("qtbase_") + locale.section(QLatin1Char('_'), 0, 0),
-                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(toolkit);
     for (const QString &name : names()) {
         const QString file = folder + name + QLatin1Char('.') + locale + QStringLiteral(".qm");
         if (!QFile::exists(file))
@@ -57,6 +68,8 @@ int install(const QString &locale, QObject *owner)
         if (translator->load(file) && QCoreApplication::installTranslator(translator))
             ++installed;
     }
+    if (installed > 0)
+        installToolkitWords(locale, owner);
     return installed;
 }
 

@@ -93,6 +93,7 @@ void ShellWindow::build(const Options &options)
     m_window->show();
     m_window->requestActivate();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
 
 bool ShellWindow::createProject(const QString &name)
