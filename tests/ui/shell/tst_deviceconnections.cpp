@@ -68,7 +68,9 @@ void TestDeviceConnections::reloadIsRefused()
 
     // And is not made up for later.
     shell.global().setConnected(false);
-    QVERIFY(!shell.timer(1200)->property("running").toBool());
+    const QObject *pause = shell.timer(1200);
+    QVERIFY(pause != nullptr);
+    QVERIFY(!pause->property("running").toBool());
     QCOMPARE(shell.evaluate("MainWindow.cameraQML.name").toString(), "Canon EOS camera");
 }
 
