@@ -92,4 +92,35 @@ Column {
             }
         }
     }
+
+    Pane {
+        width: projectPane.width
+        title: qsTr("Files")
+
+        Flow {
+            width: parent.width
+            spacing: DefFontSizeMicro
+
+            TextButton {
+                text: qsTr("Save Project As")
+                icon: "svgicons/save-as.svg"
+                toolTip: qsTr("Save under another name, pictures and all")
+                onClicked: projectPane.scene.saveProjectAs()
+            }
+
+            TextButton {
+                text: qsTr("Import Project")
+                icon: "svgicons/add.svg"
+                toolTip: qsTr("Add the frames of another project at the end, with copies of their pictures")
+                onClicked: MainWindow.importFrames()
+            }
+
+            TextButton {
+                text: qsTr("Clean Up")
+                icon: "svgicons/trash.svg"
+                toolTip: qsTr("Save, and remove pictures that no frame uses any more")
+                onClicked: projectPane.scene.cleanupConfirmBox()
+            }
+        }
+    }
 }

@@ -29,6 +29,10 @@ FocusScope {
         showDialog("SaveConfirmDialog.qml");
     }
 
+    function cleanupConfirmBox() {
+        showDialog("CleanupConfirmDialog.qml");
+    }
+
     function projectPresetsBox() {
         showDialog("ProjectPresets.qml");
     }

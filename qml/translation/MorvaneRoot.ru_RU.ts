@@ -154,6 +154,10 @@
 <context>
     <name>ProjectPane</name>
     <message>
+        <source>Add the frames of another project at the end, with copies of their pictures</source>
+        <translation>Добавить в конец кадры другого проекта с копиями их снимков</translation>
+    </message>
+    <message>
         <source>Animator&apos;s name</source>
         <translation>Имя аниматора</translation>
     </message>
@@ -166,8 +170,16 @@
         <translation>Выбрать обычный размер кадра и скорость</translation>
     </message>
     <message>
+        <source>Clean Up</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
         <source>Director</source>
         <translation>Режиссёр</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Файлы</translation>
     </message>
     <message>
         <source>Film</source>
@@ -186,6 +198,10 @@
         <translation>Кадров в секунду</translation>
     </message>
     <message>
+        <source>Import Project</source>
+        <translation>Импорт проекта</translation>
+    </message>
+    <message>
         <source>Layer</source>
         <translation>Слой</translation>
     </message>
@@ -200,6 +216,18 @@
     <message>
         <source>Project</source>
         <translation>Проект</translation>
+    </message>
+    <message>
+        <source>Save Project As</source>
+        <translation>Сохранить проект как</translation>
+    </message>
+    <message>
+        <source>Save under another name, pictures and all</source>
+        <translation>Сохранить под другим именем вместе со снимками</translation>
+    </message>
+    <message>
+        <source>Save, and remove pictures that no frame uses any more</source>
+        <translation>Сохранить и удалить снимки, которые не использует ни один кадр</translation>
     </message>
     <message>
         <source>Scene</source>
