@@ -20,9 +20,9 @@ Column {
             text: MainWindow.projDirPath
         }
 
-        NumberInput4 {
+        ProjectNumber {
             width: parent.width
-            label: qsTr("Frame width")
+            text: qsTr("Frame width")
             value: WebcamGlobal.cropAreaW
             minimum: 8
             maximum: MaxFrameWidth
@@ -30,9 +30,9 @@ Column {
             onEdited: value => WebcamGlobal.cropAreaW = value
         }
 
-        NumberInput4 {
+        ProjectNumber {
             width: parent.width
-            label: qsTr("Frame height")
+            text: qsTr("Frame height")
             value: WebcamGlobal.cropAreaH
             minimum: 8
             maximum: MaxFrameHeight
@@ -47,9 +47,9 @@ Column {
             onClicked: projectPane.scene.projectPresetsBox()
         }
 
-        NumberInput5 {
+        ProjectNumber {
             width: parent.width
-            label: qsTr("Frames per second")
+            text: qsTr("Frames per second")
             value: FramesModel.timelineFps
             minimum: 1
             maximum: maxFps
@@ -58,9 +58,9 @@ Column {
             onEdited: value => FramesModel.timelineFps = value
         }
 
-        NumberInput4 {
+        ProjectNumber {
             width: parent.width
-            label: qsTr("Number of the first frame")
+            text: qsTr("Number of the first frame")
             value: FramesModel.startIndex
             minimum: 0
             maximum: startIndexMax

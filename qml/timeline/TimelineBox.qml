@@ -12,8 +12,11 @@ Rectangle {
     readonly property bool allowAdd: MainWindow.projectLoaded && !FramesModel.playing
     readonly property bool allowManipulate: FramesModel.framesCount > 0 && !FramesModel.playing
                                             && (FramesModel.selectedCount > 0 || FramesModel.pointedGuid >= 0)
+    // Without a project there is only a line of text to show.
     readonly property int wantedHeight: compactMode
         ? 140
+        : !MainWindow.projectLoaded
+        ? DefFontSizeNormal_x4
         : Math.min(MainWindow.timelineH * (WebcamGlobal.timelineCompact ? 0.78 : 1), parent.height * 0.36)
 
     function copyFrames() {

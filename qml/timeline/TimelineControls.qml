@@ -12,6 +12,9 @@ Item {
             addBox.openPanel();
     }
 
+    // Room for the words beside the icons.
+    readonly property bool roomy: width > 66 * DefFontSizeNormal
+
     implicitHeight: DefFontSizeNormal_x2Half
     z: 1
 
@@ -22,6 +25,7 @@ Item {
         anchors.leftMargin: DefFontSizeNano
         anchors.rightMargin: counters.width + DefFontSizeMicro
         contentWidth: row.width
+        clip: true
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentWidth > width
 
@@ -101,7 +105,7 @@ Item {
             }
 
             TextButton {
-                text: qsTr("Delete")
+                text: controls.roomy ? qsTr("Delete") : ""
                 icon: "svgicons/delete.svg"
                 toolTip: FramesModel.deletionConfirmed ? qsTr("Press again to delete, right click to cancel")
                                                        : qsTr("Delete the selected frames or the current one")
@@ -112,7 +116,7 @@ Item {
             }
 
             TextButton {
-                text: qsTr("Deselect")
+                text: controls.roomy ? qsTr("Deselect") : ""
                 icon: "svgicons/deselect.svg"
                 toolTip: qsTr("Cancel the selection") + " [Esc]"
                 active: FramesModel.selectedCount > 0
@@ -148,11 +152,13 @@ Item {
         }
 
         TextLabel {
+            visible: controls.roomy
             text: qsTr("Total") + " " + FramesModel.framesCount
             dim: true
         }
 
         TextLabel {
+            visible: controls.roomy || FramesModel.selectedCount > 0
             text: qsTr("Selected") + " " + FramesModel.selectedCount
             dim: FramesModel.selectedCount === 0
         }
