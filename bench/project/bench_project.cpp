@@ -2,78 +2,31 @@
 #include "project/FrameFiles.h"
 #include "project/ProjectReader.h"
 #include "project/ProjectWriter.h"
+#include "SampleProject.h"
 
 #include <benchmark/benchmark.h>
 #include <algorithm>
 #include <cstdio>
 #include <map>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include <memory>
 #include <string>
 #include <vector>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-/// A project of a size with a captured picture and a thumbnail for every frame, all files there.
-class Sample
+/// Made once for each size and kept until the program ends.
+const SampleProject &sampleOf(benchmark::State &state)
 {
-public:
-    explicit Sample(int frames) : m_tree(ProjectTree::of(m_folder.filePath(u"film.kzfx"_s), {}))
-    {
-        QDir().mkpath(m_tree.capTumbDirPath);
-        for (int i = 0; i < frames; ++i) {
-            ProjectFrame frame;
-            frame.capTumb = u"frame_mini_%1_260101101500.jpg"_s.arg(i, 6, 10, QChar(u'0'));
-            frame.capFull = u"frame_norm_%1_260101101500.jpg"_s.arg(i, 6, 10, QChar(u'0'));
-            touch(m_tree.capTumbDirPath + frame.capTumb);
-            touch(m_tree.capFullDirPath + frame.capFull);
-            m_document.frames.append(frame);
-        }
-        ProjectWriter::save(m_tree.projPath, m_document);
-    }
-
-    /// Made once for each size and kept until the program ends.
-    static const Sample &of(benchmark::State &state)
-    {
-        static std::map<int64_t, std::unique_ptr<Sample>> samples;
-        std::unique_ptr<Sample> &sample = samples[state.range(0)];
-        if (!sample)
-            sample = std::make_unique<Sample>(static_cast<int>(state.range(0)));
-        return *sample;
-    }
-
-    const ProjectTree &tree() const
-    {
-        return m_tree;
-    }
-    const ProjectDocument &document() const
-    {
-        return m_document;
-    }
-    QString otherPath() const
-    {
-        return m_folder.filePath(u"other.kzfx"_s);
-    }
-
-private:
-    static void touch(const QString &path)
-    {
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly))
-            qFatal("cannot make %s", qUtf8Printable(path));
-    }
-
-    QTemporaryDir m_folder;
-    ProjectTree m_tree;
-    ProjectDocument m_document;
-};
+    static std::map<int64_t, std::unique_ptr<SampleProject>> samples;
+    std::unique_ptr<SampleProject> &sample = samples[state.range(0)];
+    if (!sample)
+        sample = std::make_unique<SampleProject>(static_cast<int>(state.range(0)));
+    return *sample;
+}
 
 void openBare(benchmark::State &state)
 {
-    const Sample &sample = Sample::of(state);
+    const SampleProject &sample = sampleOf(state);
     for (auto _ : state) {
         if (bare::open(sample.tree().projPath, sample.tree()) != 2 * state.range(0))
             state.SkipWithError("files are missing");
@@ -82,7 +35,7 @@ void openBare(benchmark::State &state)
 
 void openProject(benchmark::State &state)
 {
-    const Sample &sample = Sample::of(state);
+    const SampleProject &sample = sampleOf(state);
     for (auto _ : state) {
         const ProjectReadResult result = ProjectReader::readFile(sample.tree().projPath);
         for (const ProjectFrame &frame : result.document.frames) {
@@ -96,7 +49,7 @@ void openProject(benchmark::State &state)
 
 void saveBare(benchmark::State &state)
 {
-    const Sample &sample = Sample::of(state);
+    const SampleProject &sample = sampleOf(state);
     for (auto _ : state) {
         if (!bare::save(sample.otherPath(), sample.document().frames))
             state.SkipWithError("cannot save");
@@ -105,7 +58,7 @@ void saveBare(benchmark::State &state)
 
 void saveProject(benchmark::State &state)
 {
-    const Sample &sample = Sample::of(state);
+    const SampleProject &sample = sampleOf(state);
     for (auto _ : state) {
         if (!ProjectWriter::save(sample.otherPath(), sample.document()).ok)
             state.SkipWithError("cannot save");
