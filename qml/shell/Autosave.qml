@@ -7,12 +7,5 @@ Timer {
     interval: MainWindow.autosaveDelay * 60000
     repeat: true
     running: MainWindow.performAutosave && !MainWindow.pauseAutosave
-    onTriggered: {
-        if (!MainWindow.projectLoaded)
-            return;
-        if (WebcamGlobal.projectChanged)
-            WebcamGlobal.autosave();
-        else
-            MainWindow.pauseAutosave = true;
-    }
+    onTriggered: MainWindow.autosaveTick()
 }

@@ -1,7 +1,7 @@
 import QtQuick
 import Zum 1.0
 
-// What the scene does with projects: opens, creates, saves, and tells how it went.
+// What the scene does with projects: opens, creates and saves them.
 SceneDialogs {
     id: sceneProject
 
@@ -10,14 +10,7 @@ SceneDialogs {
     }
 
     function openProject(path) {
-        const result = MainWindow.projectFileOpen(path === undefined ? "" : path);
-        if (result === Zum.FileIsOk)
-            tell(Zum.Info, qsTr("Project loaded"));
-        else if (result === Zum.FileDoesntExists)
-            tell(Zum.Error, qsTr("Project file not found"));
-        else if (result === Zum.FileAlreadyOpened)
-            tell(Zum.Error, qsTr("Project already loaded"));
-        return result;
+        return MainWindow.openProject(path === undefined ? "" : path);
     }
 
     function createNewProject() {

@@ -254,21 +254,6 @@
     </message>
 </context>
 <context>
-    <name>SceneProject</name>
-    <message>
-        <source>Project already loaded</source>
-        <translation>Проект уже загружен</translation>
-    </message>
-    <message>
-        <source>Project file not found</source>
-        <translation>Не найден файл проекта</translation>
-    </message>
-    <message>
-        <source>Project loaded</source>
-        <translation>Проект загружен</translation>
-    </message>
-</context>
-<context>
     <name>ScreenArea</name>
     <message>
         <source>Frames that are captured go into a project: one file and a folder beside it.</source>

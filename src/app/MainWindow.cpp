@@ -132,7 +132,7 @@ void MainWindow::openNamedProject(const QStringList &arguments)
 {
     const QString path = commandline::projectPath(arguments);
     if (!path.isEmpty())
-        projectFileOpen(path);
+        openProject(path);
 }
 
 bool MainWindow::event(QEvent *event)
@@ -163,7 +163,7 @@ void MainWindow::takeDrop(const QList<QUrl> &urls)
     const DroppedFile file = droppedFile(urls, global.currentActiveTab());
     switch (file.kind) {
         case DroppedFile::Kind::Project:
-            projectFileOpen(file.path);
+            openProject(file.path);
             break;
         case DroppedFile::Kind::Video:
             global.setPlayerPlaying(false);

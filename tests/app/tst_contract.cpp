@@ -182,6 +182,7 @@ const QList<Method> slotsOfTheWindow{
     {"getSystemLocale()", "QString"},
     {"getFontsize()", "int"},
     // the open project
+    {"openProject(QString)", "int"},
     {"projectFileOpen(QString)", "int"},
     {"projectFileOpen()", "int"},
     {"readProjectXmlFile()", "int"},

@@ -180,6 +180,11 @@ QString ProjectFacet::extractedDirPath() const
     return controllers().paths.extractedDirPath();
 }
 
+int ProjectFacet::openProject(const QString &path)
+{
+    return controllers().lifecycle.openProject(path);
+}
+
 int ProjectFacet::projectFileOpen(const QString &path)
 {
     return controllers().lifecycle.projectFileOpen(path);

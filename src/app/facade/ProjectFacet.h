@@ -67,6 +67,8 @@ public:
     QString extractedDirPath() const;
 
 public slots:
+    /// Opens and tells the user how it went; projectFileOpen only returns it.
+    int openProject(const QString &path);
     int projectFileOpen(const QString &path);
     int projectFileOpen();
     int readProjectXmlFile();

@@ -152,9 +152,9 @@ void FakeWindow::openUrlExternally(const QString &url)
     calls.append("openUrlExternally " + url);
 }
 
-int FakeWindow::projectFileOpen(const QString &path)
+int FakeWindow::openProject(const QString &path)
 {
-    calls.append("projectFileOpen " + path);
+    calls.append("openProject " + path);
     return Zum::FileIsOk;
 }
 

@@ -92,7 +92,7 @@ public slots:
     void stopLoadingProject();
     void showInGraphicalShell(const QString &path);
     void openUrlExternally(const QString &url);
-    int projectFileOpen(const QString &path);
+    int openProject(const QString &path);
     bool saveProjectXmlFile(int mode);
     void quit(bool force);
     void quit();

@@ -120,7 +120,7 @@ void TestLastProjects::opensTheClickedProject()
     openList();
     d->click(items().at(1));
     QVERIFY(!d->isOpen());
-    QTRY_COMPARE(d->window.calls, QStringList("projectFileOpen " + path));
+    QTRY_COMPARE(d->window.calls, QStringList("openProject " + path));
 }
 
 void TestLastProjects::clickOnTheCurrentProjectDoesNothing()
@@ -193,7 +193,7 @@ void TestLastProjects::keyboardGoesThroughTheList()
     QVERIFY(items().at(1)->hasActiveFocus());
     d->host.key(Qt::Key_Return);
     QVERIFY(!d->isOpen());
-    QTRY_COMPARE(d->window.calls, QStringList("projectFileOpen " + path));
+    QTRY_COMPARE(d->window.calls, QStringList("openProject " + path));
 }
 
 void TestLastProjects::keyboardRemovesAMissingProject()

@@ -127,7 +127,7 @@ void TestQuestions::cancelOpensTheOtherProjectWithoutSaving()
     ask(Zum::OpenProjectAfterConfirm);
     d->clickText("Cancel");
     QVERIFY(!d->isOpen());
-    QTRY_COMPARE(d->window.calls, QStringList("projectFileOpen /films/other.kzfx"));
+    QTRY_COMPARE(d->window.calls, QStringList("openProject /films/other.kzfx"));
     QVERIFY(d->window.allowQuietExit());
     QCOMPARE(afterConfirmAction(), int(Zum::NoAfterConfirmAction));
     QCOMPARE(saves->count(), 0);
