@@ -112,6 +112,13 @@ Rectangle {
         FramesModel.cutModeOn = false;
     }
 
+    // While an action runs, the frame that the user points at cannot follow the current row.
+    function pointAtCurrent() {
+        if (FramesModel.loaded && !FramesModel.playing && FramesModel.currentIndex >= 0
+                && FramesModel.currentIndex < FramesModel.framesCount)
+            FramesModel.pointedGuid = FramesModel.get(FramesModel.currentIndex, false).guid;
+    }
+
     function searchStaticness() {
         FramesModel.searchStaticness(0, FramesModel.last());
     }
@@ -166,6 +173,15 @@ Rectangle {
         function onTimelineChanged(action) {
             if (action < 1024)
                 timelineBox.searchStaticness();
+        }
+
+        function onCurrentActionChanged() {
+            if (FramesModel.currentAction === Zum.ActNoAction)
+                timelineBox.pointAtCurrent();
+        }
+
+        function onLoadedChanged() {
+            timelineBox.pointAtCurrent();
         }
 
         function onDublicateAndMoveFrames() {

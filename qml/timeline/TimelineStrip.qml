@@ -54,6 +54,8 @@ Item {
     Rectangle {
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: scroll.top
+        // Above the strip's own mouse, which would take the click for one on the frame below.
+        z: 1
         visible: FramesModel.selectedCount > 0
         width: hint.implicitWidth + DefFontSizeNormal_x2
         height: DefFontSizeNormal_Pltr + DefFontSizeNano
