@@ -116,6 +116,14 @@ Column {
             }
 
             TextButton {
+                text: qsTr("Close Project")
+                icon: "svgicons/close.svg"
+                toolTip: WebcamGlobal.projectChanged ? qsTr("Save the project before it is closed") : qsTr("Close the project")
+                active: !WebcamGlobal.projectChanged
+                onClicked: MainWindow.closeProject()
+            }
+
+            TextButton {
                 text: qsTr("Clean Up")
                 icon: "svgicons/trash.svg"
                 toolTip: qsTr("Save, and remove pictures that no frame uses any more")

@@ -174,6 +174,14 @@
         <translation>Очистить</translation>
     </message>
     <message>
+        <source>Close Project</source>
+        <translation>Закрыть проект</translation>
+    </message>
+    <message>
+        <source>Close the project</source>
+        <translation>Закрыть проект</translation>
+    </message>
+    <message>
         <source>Director</source>
         <translation>Режиссёр</translation>
     </message>
@@ -220,6 +228,10 @@
     <message>
         <source>Save Project As</source>
         <translation>Сохранить проект как</translation>
+    </message>
+    <message>
+        <source>Save the project before it is closed</source>
+        <translation>Сначала сохраните проект</translation>
     </message>
     <message>
         <source>Save under another name, pictures and all</source>

@@ -31,7 +31,8 @@ public:
         bool legacy = false;
     };
 
-    explicit RecentProjects(Settings &settings, Clock clock = QDateTime::currentDateTime);
+    explicit RecentProjects(
+        Settings &settings, Clock clock = [] { return QDateTime::currentDateTime(); });
 
     /// Puts the project at the head of the list and forgets the oldest beyond the limit. A legacy project,
     /// one named "default" and one without a name or a path never enter; the result tells whether it did.
