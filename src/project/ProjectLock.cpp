@@ -38,7 +38,7 @@ std::optional<ProjectLock::Owner> readOwner(const QString &lockPath)
 ProjectLock::Host ProjectLock::Host::system()
 {
     return {QCoreApplication::applicationPid(), QSysInfo::machineHostName(), morvane::processMark,
-            QDateTime::currentDateTime};
+            [] { return QDateTime::currentDateTime(); }};
 }
 
 ProjectLock::ProjectLock(Host host) : m_host(std::move(host))
