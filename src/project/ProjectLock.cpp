@@ -37,8 +37,9 @@ std::optional<ProjectLock::Owner> readOwner(const QString &lockPath)
 
 ProjectLock::Host ProjectLock::Host::system()
 {
-    return {QCoreApplication::applicationPid(), QSysInfo::machineHostName(), morvane::processMark,
-            [] { return QDateTime::currentDateTime(); }};
+    return {QCoreApplication::applicationPid(), QSysInfo::machineHostName(), morvane::processMark, [] {
+                return QDateTime::currentDateTime();
+            }};
 }
 
 ProjectLock::ProjectLock(Host host) : m_host(std::move(host))
