@@ -11,6 +11,12 @@ if(CCACHE_PROGRAM)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
 endif()
 
+# Linking the tests takes a quarter of the time with this linker.
+find_program(MOLD_PROGRAM mold)
+if(MOLD_PROGRAM)
+    add_link_options(-fuse-ld=mold)
+endif()
+
 add_library(morvane_options INTERFACE)
 target_compile_options(morvane_options INTERFACE -Wall -Wextra -Wpedantic)
 if(MORVANE_WARNINGS_AS_ERRORS)
