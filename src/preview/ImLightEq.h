@@ -1,7 +1,9 @@
 #pragma once
 
 #include "preview/BackgroundLayer.h"
+#include "preview/ChromaKey.h"
 
+#include <memory>
 #include <QColor>
 #include <QImage>
 #include <QObject>
@@ -30,6 +32,8 @@ class ImLightEq : public QObject
     Q_OBJECT
 
 public:
+    static constexpr int neutralSaturation = 50;
+
     /// The folder of background pictures, with a trailing "/".
     explicit ImLightEq(QString backgroundFolder = {}, QObject *parent = nullptr);
 
@@ -52,8 +56,8 @@ public:
     /// Brings out detail; `sigmaS` is limited to 0 to 200, `sigmaR` to at least 0. The result is opaque.
     QImage enhance(const QImage &image, double sigmaS, double sigmaR) const;
     /// Makes transparent what is near to the key colour, by the current colour, similarity and smoothness.
-    /// Writes alpha only. The picture's red is compared with the key's blue and the other way round.
-    QImage chromakey(const QImage &image) const;
+    /// Writes alpha only. The picture's red is taken for blue and its blue for red, the key's are not.
+    QImage chromakey(QImage image) const;
 
     /// The key, its parts 0 to 255.
     QColor color() const
@@ -77,6 +81,7 @@ public:
     {
         return m_smoothness;
     }
+    /// Limits both to that range.
     void setKeyRange(double similarity, double smoothness);
 
 public slots:
@@ -95,6 +100,7 @@ private:
     int m_alpha = 0;
     double m_similarity = 0;
     double m_smoothness = 0;
+    std::unique_ptr<const chroma::AlphaTable> m_alphaTable;
     qint16 m_keyCb = 128;
     qint16 m_keyCr = 128;
 };
