@@ -13,7 +13,7 @@ QImage filled(QColor color, QSize size = {64, 48}, QImage::Format format = QImag
 {
     QImage image(size, QImage::Format_ARGB32);
     image.fill(color);
-    return image.convertToFormat(format);
+    return image.convertToFormat(format, Qt::ThresholdDither | Qt::AvoidDither);
 }
 
 /// All of the pixels in one bin.
