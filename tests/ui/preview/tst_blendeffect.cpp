@@ -123,6 +123,7 @@ class TestBlendEffect : public QObject
 private slots:
     void initTestCase();
     void init();
+    void cleanup();
     void blendTypeLooksAsPainted_data();
     void blendTypeLooksAsPainted();
     void opacitiesOfBothLayersCount_data();
@@ -145,6 +146,7 @@ private:
     }
 
     std::unique_ptr<QQuickView> m_view;
+    QStringList m_warnings;
 };
 
 void TestBlendEffect::initTestCase()
@@ -155,6 +157,10 @@ void TestBlendEffect::initTestCase()
 void TestBlendEffect::init()
 {
     m_view = std::make_unique<QQuickView>();
+    connect(m_view->engine(), &QQmlEngine::warnings, this, [this](const QList<QQmlError> &warnings) {
+        for (const QQmlError &warning : warnings)
+            m_warnings.append(warning.toString());
+    });
     m_view->engine()->addImageProvider(QStringLiteral("layers"), new LayerPictures);
     auto *component = new QQmlComponent(m_view->engine(), m_view.get());
     component->setData(
@@ -180,6 +186,12 @@ void TestBlendEffect::init()
     m_view->resize(side, side);
     m_view->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
+}
+
+void TestBlendEffect::cleanup()
+{
+    m_view.reset();
+    QCOMPARE(m_warnings, QStringList());
 }
 
 void TestBlendEffect::set(const char *name, const QVariant &value)
