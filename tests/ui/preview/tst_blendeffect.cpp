@@ -124,6 +124,9 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
+    void blendTypeHasItsCompositionMode_data();
+    void blendTypeHasItsCompositionMode();
+    void grayscaleComesBeforeBlending();
     void blendTypeLooksAsPainted_data();
     void blendTypeLooksAsPainted();
     void opacitiesOfBothLayersCount_data();
@@ -204,6 +207,52 @@ QImage TestBlendEffect::seen()
     const QSharedPointer<QQuickItemGrabResult> grab = item("all")->grabToImage();
     QSignalSpy ready(grab.data(), &QQuickItemGrabResult::ready);
     return ready.wait() ? grab->image().convertToFormat(QImage::Format_ARGB32_Premultiplied) : QImage();
+}
+
+void TestBlendEffect::blendTypeHasItsCompositionMode_data()
+{
+    QTest::addColumn<int>("blend");
+    QTest::addColumn<int>("mode");
+    const auto row = [](const char *name, int blend, QPainter::CompositionMode mode) {
+        QTest::newRow(name) << blend << int(mode);
+    };
+    row("NoBlend", Zum::NoBlend, QPainter::CompositionMode_SourceOver);
+    row("BlendDarken", Zum::BlendDarken, QPainter::CompositionMode_Darken);
+    row("BlendMultiply", Zum::BlendMultiply, QPainter::CompositionMode_Multiply);
+    row("BlendColorBurn", Zum::BlendColorBurn, QPainter::CompositionMode_ColorBurn);
+    row("BlendLighten", Zum::BlendLighten, QPainter::CompositionMode_Lighten);
+    row("BlendScreen", Zum::BlendScreen, QPainter::CompositionMode_Screen);
+    row("BlendColorDodge", Zum::BlendColorDodge, QPainter::CompositionMode_ColorDodge);
+    row("BlendOverlay", Zum::BlendOverlay, QPainter::CompositionMode_Overlay);
+    row("BlendSoftLight", Zum::BlendSoftLight, QPainter::CompositionMode_Lighten);
+    row("BlendHardLight", Zum::BlendHardLight, QPainter::CompositionMode_HardLight);
+    row("BlendDifference", Zum::BlendDifference, QPainter::CompositionMode_Difference);
+    row("BlendExclusion", Zum::BlendExclusion, QPainter::CompositionMode_Exclusion);
+    row("BlendPlus", Zum::BlendPlus, QPainter::CompositionMode_Plus);
+    row("BlendXor", Zum::BlendXor, QPainter::CompositionMode_SourceOver);
+    row("unknown", 77, QPainter::CompositionMode_SourceOver);
+}
+
+void TestBlendEffect::blendTypeHasItsCompositionMode()
+{
+    QFETCH(int, blend);
+    QFETCH(int, mode);
+    QChromaKey effect;
+    effect.setBlend(blend);
+    QCOMPARE(effect.compositionMode(), mode);
+    QCOMPARE(effect.blending(), mode != QPainter::CompositionMode_SourceOver);
+    QCOMPARE(effect.active(), effect.blending());
+}
+
+void TestBlendEffect::grayscaleComesBeforeBlending()
+{
+    QChromaKey effect;
+    effect.setBlend(Zum::BlendMultiply);
+    effect.setGrayscale(true);
+    QVERIFY(effect.active());
+    QVERIFY(!effect.blending());
+    effect.setGrayscale(false);
+    QVERIFY(effect.blending());
 }
 
 void TestBlendEffect::blendTypeLooksAsPainted_data()
