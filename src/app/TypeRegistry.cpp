@@ -4,6 +4,7 @@
 #include "app/CursorShapeArea.h"
 #include "app/QNumImput.h"
 #include "app/WheelArea.h"
+#include "preview/RamPreview.h"
 #include "shared/Zum.h"
 #include "timeline/Progress.h"
 
@@ -26,6 +27,7 @@ void add(const char *name)
 void registerTypes()
 {
     add<Progress>("Progress");
+    add<RamPreview>("CRamPreview");
     add<Zum>("Zum");
     add<WheelArea>("WheelArea");
     add<CursorShapeArea>("CursorShapeArea");
