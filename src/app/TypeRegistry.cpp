@@ -4,6 +4,8 @@
 #include "app/CursorShapeArea.h"
 #include "app/QNumImput.h"
 #include "app/WheelArea.h"
+#include "preview/Histogram.h"
+#include "preview/QChromaKey.h"
 #include "preview/RamPreview.h"
 #include "shared/Zum.h"
 #include "timeline/Progress.h"
@@ -27,6 +29,7 @@ void add(const char *name)
 void registerTypes()
 {
     add<Progress>("Progress");
+    add<Histogram>("Histogram");
     add<RamPreview>("CRamPreview");
     add<Zum>("Zum");
     add<WheelArea>("WheelArea");
@@ -36,6 +39,7 @@ void registerTypes()
     qRegisterMetaType<QPolygon>("QPolygon");
     add<ASlider>("Aslider");
     add<QNumImput>("QNumImput");
+    add<QChromaKey>("QChromaKey");
 }
 
 } // namespace typeregistry
