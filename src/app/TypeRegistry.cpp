@@ -6,6 +6,8 @@
 #include "app/WheelArea.h"
 #include "shared/Zum.h"
 #include "timeline/Progress.h"
+#include "timeline/RowBand.h"
+#include "timeline/TimelineIndicator.h"
 
 #include <qqml.h>
 #include <QPainterPath>
@@ -34,6 +36,8 @@ void registerTypes()
     qRegisterMetaType<QPolygon>("QPolygon");
     add<ASlider>("Aslider");
     add<QNumImput>("QNumImput");
+    add<RowBand>("RowBand");
+    add<TimelineIndicator>("TimelineIndicator");
 }
 
 } // namespace typeregistry
