@@ -150,7 +150,7 @@ SceneDevices {
         scene: appWindow
     }
 
-    TimelineBox {
+    Timeline {
         id: timelineBox
 
         anchors.horizontalCenter: parent.horizontalCenter

@@ -1,192 +1,84 @@
 import QtQuick
 import Zum 1.0
 
-// The timeline: a row of controls and the strip of frames. Holds no frame data; everything goes to the model.
+// The timeline: a row of controls, the strip of frames, and below it the bar, the indicator and a scroll bar.
+// Holds no frame data; everything goes to the model.
 Rectangle {
     id: timelineBox
 
     required property var scene
-    property bool compactMode: false
     property bool rangeControlVisible: false
+    property bool compactMode: false
+    property bool arrowsVisible: true
+    // Of the thumbnails' size.
+    property real contentScale: timelineScale / 100
+    property int currentMiddleFrame: -1
+    property bool showQuickLoadPannel: true
+    // What of the frames is in memory: pairs [first row, last row], and the share of the range in per cent.
+    property var readyRuns: []
+    property real readyPercent: 0
+    readonly property alias leftMostIndex: frameStrip.leftMostIndex
+    readonly property int framesTotal: MainWindow.projectLoaded ? Math.max(0, FramesModel.framesCount - 1) : 0
+    readonly property alias allowAdd: edits.allowAdd
+    readonly property alias allowManipulate: edits.allowManipulate
+    readonly property alias strip: frameStrip
+    readonly property alias commands: edits
 
-    readonly property bool allowAdd: MainWindow.projectLoaded && !FramesModel.playing
-    readonly property bool allowManipulate: FramesModel.framesCount > 0 && !FramesModel.playing
-                                            && (FramesModel.selectedCount > 0 || FramesModel.pointedGuid >= 0)
+    readonly property bool barShown: MainWindow.projectLoaded && FramesModel.framesCount > 0
+    // What heights are made of: the letters' size, or less where large letters would leave no room for frames.
+    readonly property int unit: Math.max(9, Math.min(DefFontSizeNormal, Math.floor(height / (compactMode ? 9 : 14))))
     // Without a project there is only a line of text to show.
     readonly property int wantedHeight: compactMode
         ? 140
         : !MainWindow.projectLoaded
         ? DefFontSizeNormal_x4
-        : Math.min(MainWindow.timelineH * (WebcamGlobal.timelineCompact ? 0.78 : 1), parent.height * 0.36)
+        : Math.min(MainWindow.timelineH * (WebcamGlobal.timelineCompact ? 0.78 : 1),
+                   Math.max(parent.height * 0.36, Math.min(parent.height * 0.5, DefFontSizeNormal_x7)))
 
     function copyFrames() {
-        arm(true);
+        edits.copyFrames();
     }
 
     function cutFrames() {
-        arm(false);
-    }
-
-    function arm(copy) {
-        if (!allowManipulate)
-            return;
-        FramesModel.copyModeOn = copy;
-        FramesModel.cutModeOn = !copy;
-        if (FramesModel.selectedCount === 0) {
-            FramesModel.duplicateQuantity = 1;
-            FramesModel.copyFrame();
-        }
+        edits.cutFrames();
     }
 
     function pasteFrames() {
-        if (FramesModel.copyModeOn)
-            pasteCopy();
-        else if (FramesModel.cutModeOn)
-            pasteCut();
+        edits.pasteFrames();
     }
 
-    function pasteCopy() {
-        if (FramesModel.selectedCount > 0) {
-            dublicateAndMoveFrames();
-        } else {
-            const row = FramesModel.pasteFrame();
-            if (row >= 0)
-                FramesModel.duplicateSingleFrame(row, Zum.CaptureModeAppend, FramesModel.currentIndex, true, 1);
-        }
-        FramesModel.copyModeOn = false;
+    function openAddBox() {
+        if (allowAdd && controls.item)
+            controls.item.openAddBox();
     }
 
-    function pasteCut() {
-        if (FramesModel.selectedCount > 0) {
-            moveFrames();
-        } else {
-            const row = FramesModel.pasteFrame();
-            if (row >= 0)
-                FramesModel.moveSingleFrame(row, FramesModel.currentIndex);
-        }
-        FramesModel.cutModeOn = false;
-        FramesModel.emitChanged(0);
+    function closeAddBox() {
+        if (controls.item)
+            controls.item.closeAddBox();
     }
 
-    function moveFrames() {
-        FramesModel.actionOnSelectedFrames(Zum.ActMoveFrames);
+    function getCurrentMiddleFrame() {
+        const row = frameStrip.rowAt(frameStrip.viewWidth / 2);
+        currentMiddleFrame = row >= 0 ? row : FramesModel.lastAccessedIndex;
+        return currentMiddleFrame;
     }
 
-    function dublicateAndMoveFrames() {
-        FramesModel.duplicateQuantity = 1;
-        FramesModel.actionOnSelectedFrames(Zum.ActDuplicateAndMoveFrames);
-    }
-
-    function dublicateFrames() {
-        if (!allowManipulate)
-            return;
-        if (FramesModel.selectedCount === 0)
-            FramesModel.switchSelectionOnSingleFrame(FramesModel.currentIndex);
-        FramesModel.actionOnSelectedFrames(Zum.ActDuplicateFrames);
-    }
-
-    // The first press arms, the second deletes.
-    function deleteFrames() {
-        if (!allowManipulate)
-            return;
-        if (!FramesModel.deletionConfirmed)
-            FramesModel.deletionConfirmed = true;
-        else if (FramesModel.selectedCount > 0)
-            FramesModel.actionOnSelectedFrames(Zum.ActDelete);
-        else if (FramesModel.removeSingleFrame(-1, true, true))
-            FramesModel.timelineChanged(Zum.ActDelete);
-    }
-
-    function addEmptyFrame() {
-        if (FramesModel.addInsteadOfReplace || FramesModel.framesCount === 0) {
-            FramesModel.appendFrame({}, false, FramesModel.currentIndex);
-            FramesModel.timelineChanged(Zum.ActInsert);
-        } else {
-            FramesModel.cleanupCurrentFrame();
-        }
-    }
-
-    function dismiss() {
-        FramesModel.dismiss();
-        FramesModel.copyModeOn = false;
-        FramesModel.cutModeOn = false;
-    }
-
-    // While an action runs, the frame that the user points at cannot follow the current row.
-    function pointAtCurrent() {
-        if (FramesModel.loaded && !FramesModel.playing && FramesModel.currentIndex >= 0
-                && FramesModel.currentIndex < FramesModel.framesCount)
-            FramesModel.pointedGuid = FramesModel.get(FramesModel.currentIndex, false).guid;
-    }
-
-    function searchStaticness() {
-        FramesModel.searchStaticness(0, FramesModel.last());
+    function getVisibleFramesIndxs() {
+        return frameStrip.getVisibleFramesIndxs();
     }
 
     color: GlobalDarkerColor
 
-    Connections {
-        target: WebcamGlobal
-        enabled: timelineBox.visible
+    TimelineCommands {
+        id: edits
 
-        function onTimelineGotoStart() {
-            FramesModel.currentIndex = 0;
-        }
-
-        function onTimelineGotoEnd() {
-            FramesModel.currentIndex = FramesModel.last();
-        }
-
-        function onTimelinePrevFrame() {
-            FramesModel.currentIndex = FramesModel.currentIndex - 1;
-        }
-
-        function onTimelineNextFrame() {
-            FramesModel.currentIndex = FramesModel.currentIndex + 1;
-        }
-
-        function onTimelineSelectFrame() {
-            FramesModel.switchSelectionOnSingleFrame(FramesModel.currentIndex);
-        }
-
-        function onTimelineDeleteFrames() {
-            timelineBox.deleteFrames();
-        }
-
-        function onTimelineFrameDuplicate() {
-            timelineBox.dublicateFrames();
-        }
-
-        function onTimelineDismiss() {
-            timelineBox.dismiss();
-        }
-
-        function onTimelineShowAddBox() {
-            if (controls.item)
-                controls.item.openAddBox();
-        }
+        timeline: timelineBox
     }
 
-    Connections {
-        target: FramesModel
-
-        function onTimelineChanged(action) {
-            if (action < 1024)
-                timelineBox.searchStaticness();
-        }
-
-        function onCurrentActionChanged() {
-            if (FramesModel.currentAction === Zum.ActNoAction)
-                timelineBox.pointAtCurrent();
-        }
-
-        function onLoadedChanged() {
-            timelineBox.pointAtCurrent();
-        }
-
-        function onDublicateAndMoveFrames() {
-            timelineBox.dublicateAndMoveFrames();
-        }
+    TimelineReactions {
+        timeline: timelineBox
+        commands: edits
+        strip: frameStrip
     }
 
     // Without a project none of them could do anything.
@@ -196,19 +88,75 @@ Rectangle {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
+        z: 1
         active: MainWindow.projectLoaded
         visible: !timelineBox.compactMode
         height: visible && item ? item.implicitHeight : 0
         sourceComponent: TimelineControls {
             timeline: timelineBox
+            commands: edits
+        }
+    }
+
+    Loader {
+        id: leftColumn
+
+        anchors.left: parent.left
+        anchors.top: controls.bottom
+        anchors.bottom: frameStrip.bottom
+        active: MainWindow.projectLoaded
+        visible: !timelineBox.compactMode
+        width: visible && item ? item.implicitWidth : 0
+        sourceComponent: TimelineLeftColumn {
+            timeline: timelineBox
+            commands: edits
         }
     }
 
     TimelineStrip {
-        anchors.left: parent.left
+        id: frameStrip
+
+        anchors.left: leftColumn.right
         anchors.right: parent.right
         anchors.top: controls.bottom
-        anchors.bottom: parent.bottom
+        anchors.bottom: bar.top
         timeline: timelineBox
+        commands: edits
+    }
+
+    Loader {
+        id: bar
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: indicator.top
+        active: timelineBox.barShown
+        height: item ? item.implicitHeight : 0
+        sourceComponent: TimelineBar {
+            timeline: timelineBox
+        }
+    }
+
+    TimelineIndicatorRow {
+        id: indicator
+
+        anchors.left: frameStrip.left
+        anchors.right: parent.right
+        anchors.bottom: scroll.top
+        height: timelineBox.barShown ? Math.max(6, Math.round(timelineBox.unit * 0.7)) : 0
+        visible: timelineBox.barShown
+    }
+
+    Scrollbar {
+        id: scroll
+
+        anchors.left: frameStrip.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        height: Math.min(implicitHeight, timelineBox.unit)
+        toolTip: qsTr("Scroll the timeline")
+        flickable: frameStrip.flickable
+        vertical: false
+        onPressedChanged: frameStrip.handMoves(pressed)
     }
 }
