@@ -17,14 +17,14 @@ Item {
         MainWindow.addSetting("timelineCompact", WebcamGlobal.timelineCompact);
     }
 
-    implicitWidth: grid.width + 2 * gap
+    readonly property int columns: Math.ceil(count / rows)
+
+    implicitWidth: columns * (buttonSize + gap) + gap
 
     Grid {
-        id: grid
-
         x: column.gap
         y: column.gap
-        columns: Math.ceil(column.count / column.rows)
+        columns: column.columns
         spacing: column.gap
 
         IconButton {

@@ -97,12 +97,12 @@ Item {
             if (FramesModel.playing)
                 return;
             reactions.strip.goToLastAccessed();
-            reactions.strip.keepInSight(FramesModel.currentIndex);
+            reactions.strip.goTo(FramesModel.currentIndex);
         }
 
         function onCurrentIndexChanged() {
             if (!FramesModel.playing)
-                reactions.strip.keepInSight(FramesModel.currentIndex);
+                reactions.strip.goTo(FramesModel.currentIndex);
             reactions.timeline.getCurrentMiddleFrame();
         }
 

@@ -11,7 +11,7 @@ Item {
     readonly property alias flickable: view
     readonly property real viewWidth: view.width
     readonly property bool connected: view.state === "connected"
-    readonly property bool flashing: flashTime.running
+    readonly property bool flashing: cover.visible
     // Whether the user has moved the list since the frames were loaded.
     property bool movedByHand: false
     readonly property int unit: timeline.unit
@@ -78,10 +78,6 @@ Item {
         goTo(FramesModel.lastAccessedIndex);
     }
 
-    function keepInSight(row) {
-        goTo(row);
-    }
-
     // While rows multiply the list does without the model.
     function disconnectModel() {
         view.state = "unconnected";
@@ -94,7 +90,7 @@ Item {
     }
 
     function flash() {
-        flashTime.restart();
+        cover.flash();
     }
 
     function handMoves(moving) {
@@ -178,16 +174,10 @@ Item {
         strip: frameStrip
     }
 
-    Rectangle {
+    FlashCover {
+        id: cover
+
         anchors.fill: parent
-        visible: frameStrip.flashing
-        color: "#11000000"
-
-        Timer {
-            id: flashTime
-
-            interval: 100
-        }
     }
 
     TimelineMessages {
