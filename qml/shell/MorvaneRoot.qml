@@ -152,7 +152,7 @@ SceneDevices {
         scene: appWindow
     }
 
-    TimelineBox {
+    Timeline {
         id: timelineBox
 
         anchors.horizontalCenter: parent.horizontalCenter
