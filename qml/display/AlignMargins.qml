@@ -6,35 +6,35 @@ Item {
 
     required property rect hole
 
-    readonly property real left: Math.max(0, hole.x)
-    readonly property real right: Math.min(width, hole.x + hole.width)
-    readonly property real top: Math.max(0, hole.y)
-    readonly property real bottom: Math.min(height, hole.y + hole.height)
+    readonly property real leftEdge: Math.max(0, hole.x)
+    readonly property real rightEdge: Math.min(width, hole.x + hole.width)
+    readonly property real topEdge: Math.max(0, hole.y)
+    readonly property real bottomEdge: Math.min(height, hole.y + hole.height)
 
     Rectangle {
-        width: margins.left
+        width: margins.leftEdge
         height: margins.height
         color: "black"
     }
 
     Rectangle {
-        x: margins.right
+        x: margins.rightEdge
         width: margins.width - x
         height: margins.height
         color: "black"
     }
 
     Rectangle {
-        x: margins.left
-        width: margins.right - margins.left
-        height: margins.top
+        x: margins.leftEdge
+        width: margins.rightEdge - margins.leftEdge
+        height: margins.topEdge
         color: "black"
     }
 
     Rectangle {
-        x: margins.left
-        y: margins.bottom
-        width: margins.right - margins.left
+        x: margins.leftEdge
+        y: margins.bottomEdge
+        width: margins.rightEdge - margins.leftEdge
         height: margins.height - y
         color: "black"
     }

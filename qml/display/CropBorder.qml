@@ -15,7 +15,8 @@ Item {
         color: Theme.active
     }
 
-    // Keeps its size on screen, and stands inside of the edge, where it is not cut off.
+    // Keeps its size on screen, and stands inside of the edge, where it is not cut off; not where it would hide
+    // the picture.
     Rectangle {
         id: label
 
@@ -25,7 +26,8 @@ Item {
         height: Math.ceil(text.implicitHeight)
         transformOrigin: Item.TopLeft
         scale: 1 / border.zoom
-        visible: WebcamGlobal.techInfoOn
+        visible: WebcamGlobal.techInfoOn && 2 * width < border.width * border.zoom
+                 && 3 * height < border.height * border.zoom
         radius: Theme.corner
         color: "#99000000"
 

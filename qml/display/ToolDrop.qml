@@ -18,6 +18,10 @@ IconButton {
             panel.enter();
     }
 
+    function close() {
+        panel.close();
+    }
+
     // The corner says that there is more behind it.
     Canvas {
         anchors.right: parent.right
