@@ -6,6 +6,7 @@
 #include "app/WheelArea.h"
 #include "preview/Histogram.h"
 #include "preview/QChromaKey.h"
+#include "preview/RamPreview.h"
 #include "shared/Zum.h"
 #include "timeline/Progress.h"
 
@@ -29,6 +30,7 @@ void registerTypes()
 {
     add<Progress>("Progress");
     add<Histogram>("Histogram");
+    add<RamPreview>("CRamPreview");
     add<Zum>("Zum");
     add<WheelArea>("WheelArea");
     add<CursorShapeArea>("CursorShapeArea");

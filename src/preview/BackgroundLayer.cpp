@@ -41,7 +41,10 @@ QImage scaledToFrame(const QImage &image, QSize frame, double scale)
         return {};
     const QSizeF size = QSizeF(image.size()).scaled(room, Qt::KeepAspectRatio);
     const bool modest = isModest(atHeight(image.size(), frame.height()));
-    const QImage first = modest ? image.scaledToHeight(frame.height(), Qt::SmoothTransformation) : image;
+    QImage first = modest ? image.scaledToHeight(frame.height(), Qt::SmoothTransformation) : QImage();
+    // Too large to be made at that height, or too thin to be seen.
+    if (first.isNull())
+        first = image;
     if (!isModest(size))
         return visiblePart(first, size, frame);
     return first.scaled(static_cast<int>(room.width()), static_cast<int>(room.height()), Qt::KeepAspectRatio,

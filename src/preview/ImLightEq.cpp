@@ -15,12 +15,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Runs a step; what OpenCV throws ends here, and the picture stays as it was.
+/// Runs a step; what OpenCV throws ends here. Where it gave nothing the picture stays as it was.
 template <typename Step>
 QImage guarded(const char *name, const QImage &image, Step step)
 {
     try {
-        return step();
+        const QImage result = step();
+        return result.isNull() ? image : result;
     } catch (const std::exception &failure) {
         qWarning("%s: %s", name, failure.what());
         return image;

@@ -12,8 +12,9 @@
 /// a time, writes the disk copies and looks how much room they take.
 ///
 /// All slots run on its thread. It answers by invoking slots of its owner by name, queued: "setCaching",
-/// "setCacheUsedPercent", "setCacheMaxInBytes", "imageSizeChanged", "setProportion", "finishedInThread", and
-/// for a request that ends without a picture "endedInThread". The picture itself is taken from the handover.
+/// "setCacheUsedPercent", "setCacheMaxInBytes", "imageSizeChanged", "setProportion", "finishedInThread";
+/// further "endedInThread" for a request that ends without a picture, "setReadyPictures",
+/// "setDiskCacheUsedPercent". The picture itself is to be taken from the handover.
 class RamPreviewWorker : public QObject
 {
     Q_OBJECT
@@ -45,15 +46,13 @@ public slots:
     /// Replaces the plan; one without names ends the reading ahead.
     void setReadAhead(const ReadAheadPlan &plan);
 
-private slots:
-    void workWhileIdle();
-
 private:
     PictureStore::Reports reports();
-    void scheduleIdleWork();
-    void tell(const char *slot, auto... values);
+    void workLater();
+    template <typename... Values>
+    void tell(const char *slot, Values... values);
 
     QPointer<QObject> m_owner;
     PictureStore m_store;
-    bool m_idleWorkPosted = false;
+    bool m_workPosted = false;
 };
