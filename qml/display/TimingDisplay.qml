@@ -57,11 +57,17 @@ Item {
     }
 
     Loader {
-        id: histogram
-
         anchors.right: parent.right
         anchors.top: parent.top
         anchors.margins: Theme.spacing
+        width: Math.min(DefFontSizeNormal_x22, parent.width / 2)
         active: WebcamGlobal.ramHistogramOn && !timingDisplay.empty
+        sourceComponent: HistogramPane {
+            running: timingDisplay.running && !FramesModel.playing
+            histogramDataY: preview.preview.histogramDataY
+            histogramDataR: preview.preview.histogramDataR
+            histogramDataG: preview.preview.histogramDataG
+            histogramDataB: preview.preview.histogramDataB
+        }
     }
 }
