@@ -6,8 +6,11 @@
 #include "app/WheelArea.h"
 #include "preview/Histogram.h"
 #include "preview/QChromaKey.h"
+#include "preview/RamPreview.h"
 #include "shared/Zum.h"
 #include "timeline/Progress.h"
+#include "timeline/RowBand.h"
+#include "timeline/TimelineIndicator.h"
 
 #include <qqml.h>
 #include <QPainterPath>
@@ -29,6 +32,7 @@ void registerTypes()
 {
     add<Progress>("Progress");
     add<Histogram>("Histogram");
+    add<RamPreview>("CRamPreview");
     add<Zum>("Zum");
     add<WheelArea>("WheelArea");
     add<CursorShapeArea>("CursorShapeArea");
@@ -38,6 +42,8 @@ void registerTypes()
     add<ASlider>("Aslider");
     add<QNumImput>("QNumImput");
     add<QChromaKey>("QChromaKey");
+    add<RowBand>("RowBand");
+    add<TimelineIndicator>("TimelineIndicator");
 }
 
 } // namespace typeregistry

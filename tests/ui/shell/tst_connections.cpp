@@ -383,7 +383,7 @@ void TestConnections::questionStopsThePlayback()
 void TestConnections::redrawBlinksAPixelTwice()
 {
     ShellWindow shell;
-    QObject *steps = shell.timer(100);
+    QObject *steps = shell.evaluate("repaintSteps").value<QObject *>();
     QVERIFY(steps != nullptr);
     QTRY_VERIFY(!steps->property("running").toBool());
     QSignalSpy changes(&shell.root(), SIGNAL(addingChanged()));
