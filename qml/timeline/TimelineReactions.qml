@@ -89,8 +89,9 @@ Item {
         }
 
         function onCountChanged() {
+            // Once for all the frames that come in a row.
             if (FramesModel.loaded)
-                reactions.strip.goToLastAccessed();
+                reactions.strip.goToLastAccessedSoon();
         }
 
         function onPlayingChanged() {
