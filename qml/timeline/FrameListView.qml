@@ -24,7 +24,6 @@ ListView {
             PropertyChanges {
                 target: view
                 model: FramesModel
-                currentIndex: FramesModel.currentIndex
             }
         },
         // While rows multiply the list does without the model.
@@ -34,7 +33,6 @@ ListView {
             PropertyChanges {
                 target: view
                 model: null
-                currentIndex: -1
             }
         }
     ]
@@ -46,4 +44,13 @@ ListView {
     }
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Frames")
+
+    // A new model would set the index back, so this comes after it.
+    Binding {
+        target: view
+        property: "currentIndex"
+        value: FramesModel.currentIndex
+        when: view.model !== null
+        restoreMode: Binding.RestoreNone
+    }
 }

@@ -11,6 +11,8 @@ Item {
 
     // Actions of the model; other numbers are the announcer's own.
     readonly property int firstForeignAction: 1024
+    // The model also tells of a current row that is the same as before, after each change of its rows.
+    property int knownIndex: -1
 
     function goToEnd() {
         strip.goToEnd();
@@ -102,8 +104,9 @@ Item {
         }
 
         function onCurrentIndexChanged() {
-            if (!FramesModel.playing)
+            if (!FramesModel.playing && FramesModel.currentIndex !== reactions.knownIndex)
                 reactions.strip.goTo(FramesModel.currentIndex);
+            reactions.knownIndex = FramesModel.currentIndex;
             reactions.timeline.getCurrentMiddleFrame();
         }
 
