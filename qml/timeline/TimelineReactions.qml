@@ -14,6 +14,12 @@ Item {
     // The model also tells of a current row that is the same as before, after each change of its rows.
     property int knownIndex: -1
 
+    // Also brings a row into sight that was current already.
+    function makeCurrent(row) {
+        FramesModel.currentIndex = row;
+        strip.goTo(FramesModel.currentIndex);
+    }
+
     function goToEnd() {
         strip.goToEnd();
         WebcamGlobal.timelineGotoEnd();
@@ -27,19 +33,19 @@ Item {
         enabled: reactions.timeline.visible
 
         function onTimelineGotoStart() {
-            FramesModel.currentIndex = 0;
+            reactions.makeCurrent(0);
         }
 
         function onTimelineGotoEnd() {
-            FramesModel.currentIndex = FramesModel.last();
+            reactions.makeCurrent(FramesModel.last());
         }
 
         function onTimelinePrevFrame() {
-            FramesModel.currentIndex = FramesModel.currentIndex - 1;
+            reactions.makeCurrent(FramesModel.currentIndex - 1);
         }
 
         function onTimelineNextFrame() {
-            FramesModel.currentIndex = FramesModel.currentIndex + 1;
+            reactions.makeCurrent(FramesModel.currentIndex + 1);
         }
 
         function onTimelineSelectFrame() {

@@ -9,8 +9,15 @@ StripWindow::StripWindow(int frames, const Options &options) : ShellWindow(optio
     this->frames().setShootMultipleFrames(0);
     addFrames(frames);
     this->frames().setCurrentIndex(0);
+    goToStart();
+}
+
+void StripWindow::goToStart()
+{
     if (!settle())
         QTest::qFail("nothing is drawn", __FILE__, __LINE__);
+    timeline(QStringLiteral("strip.goTo(0)"));
+    settle();
 }
 
 QList<int> StripWindow::order()

@@ -22,6 +22,8 @@ public:
     {
         return timeline(QStringLiteral("strip")).value<QQuickItem *>();
     }
+    /// Scrolls to the first frame, once all that changes of the frames entail is over.
+    void goToStart();
     /// The row at a place of the strip, -1 where there is none.
     int rowAt(qreal x) const
     {

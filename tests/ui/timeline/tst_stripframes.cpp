@@ -32,6 +32,7 @@ private slots:
     void editScansForHoldsAndGoesToItsRow();
     void foreignChangesDoNot();
     void countGoesToTheRowOfTheEdit();
+    void keyToTheStartShowsItAlsoWhenItIsCurrent();
     void endOfPlayingKeepsTheCurrentFrameInSight();
     void loadedFilmShowsItsEnd();
     void changeOfWidthDismisses();
@@ -280,7 +281,7 @@ void TestStripFrames::reusedFramesShowTheirNewRow()
     d->addFrames(200);
     for (int row = 0; row < 208; ++row)
         d->frames().setValue(row, Zum::PhaseNumber, row);
-    QVERIFY(d->settle());
+    d->goToStart();
     for (int i = 0; i < 8; ++i) {
         d->wheel(-25);
         QVERIFY(d->settle());
@@ -311,6 +312,16 @@ void TestStripFrames::messagesOnTheStrip()
     QVERIFY(!shows("No Frames"));
 }
 
+void TestStripFrames::keyToTheStartShowsItAlsoWhenItIsCurrent()
+{
+    d->addFrames(60);
+    QVERIFY(d->settle());
+    QCOMPARE(d->frames().currentIndex(), 0);
+    QVERIFY(d->timeline("leftMostIndex").toInt() > 0);
+    d->press(Qt::Key_Home);
+    QCOMPARE(d->timeline("leftMostIndex").toInt(), 0);
+}
+
 void TestStripFrames::selectionMessageDismisses()
 {
     d->select({1, 2});
@@ -336,7 +347,7 @@ void TestStripFrames::editScansForHoldsAndGoesToItsRow()
 {
     d->addFrames(60);
     d->frames().setCurrentIndex(0);
-    QVERIFY(d->settle());
+    d->goToStart();
     d->frames().setValue(41, Zum::CapFull, d->frames().frameAt(40).capFull);
     d->frames().switchMirroredOnSingleFrame(50);
     QVERIFY(d->frame(50) != nullptr);
@@ -373,7 +384,7 @@ void TestStripFrames::endOfPlayingKeepsTheCurrentFrameInSight()
     d->frames().setCurrentIndex(0);
     d->frames().setTimelineRangeEnd(67);
     d->frames().setTimelineFps(1);
-    QVERIFY(d->settle());
+    d->goToStart();
     d->frames().play();
     QTRY_VERIFY(d->frames().playing());
     // The list stays where it is while the film runs.
@@ -390,7 +401,7 @@ void TestStripFrames::loadedFilmShowsItsEnd()
 {
     d->addFrames(60);
     d->frames().setCurrentIndex(0);
-    QVERIFY(d->settle());
+    d->goToStart();
     QSignalSpy ends(&d->global(), &WebcamGlobal::timelineGotoEnd);
     d->frames().setLoaded(false);
     d->frames().setLoaded(true);
@@ -449,7 +460,7 @@ void TestStripFrames::arrowsTurnPages()
     QVERIFY(d->findItem("toolTip", "Later frames") == nullptr);
     d->addFrames(60);
     d->frames().setCurrentIndex(0);
-    QVERIFY(d->settle());
+    d->goToStart();
     QVERIFY(d->findItem("toolTip", "Earlier frames") == nullptr);
     d->press("Later frames");
     QVERIFY(d->timeline("leftMostIndex").toInt() > 4);

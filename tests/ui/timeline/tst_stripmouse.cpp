@@ -90,11 +90,13 @@ void TestStripMouse::menuActsOnTheFrame()
 {
     StripWindow strip(6);
     strip.clickFrame(2, Qt::NoModifier, Qt::RightButton);
+    QVERIFY(strip.settle());
     strip.click(strip.findItem("text", "Mirror"));
     QVERIFY(strip.frames().frameAt(2).mirrored);
     QCOMPARE(strip.itemsOf("MenuList").size(), 0);
     QVERIFY(strip.waitIdle());
     strip.clickFrame(4, Qt::NoModifier, Qt::RightButton);
+    QVERIFY(strip.settle());
     strip.click(strip.findItem("text", "End the range here"));
     QCOMPARE(strip.frames().timelineRangeEnd(), 4);
 }
