@@ -89,7 +89,8 @@ void TestSceneValues::typesAreRegisteredInTheirOrder()
 {
     ShellWindow shell;
     int before = -1;
-    for (const char *name : {"Progress", "Zum", "WheelArea", "CursorShapeArea", "Aslider", "QNumImput"}) {
+    for (const char *name : {"Progress", "Zum", "WheelArea", "CursorShapeArea", "Aslider", "QNumImput",
+                             "RowBand", "TimelineIndicator"}) {
         const int id = qmlTypeId(name, 1, 0, name);
         QVERIFY2(id > before, name);
         before = id;
