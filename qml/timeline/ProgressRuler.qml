@@ -12,15 +12,17 @@ Item {
     property bool rangeVisible: false
     readonly property int lineHeight: 3
     // Frames from tick to tick: one or a few, then whole seconds, so that they stand clear of each other.
-    readonly property int tickStep: stepFor(total > 0 ? width / total : 0)
+    readonly property real pixelsPerFrame: total > 0 ? width / total : 0
+    readonly property int tickStep: stepFor(pixelsPerFrame)
+    readonly property int closest: 3 * DefFontSizeMicro
 
-    function stepFor(pixelsPerFrame) {
-        if (pixelsPerFrame <= 0)
+    function stepFor(pixels) {
+        if (pixels <= 0)
             return 0;
         const second = Math.max(1, Math.round(fps));
         const steps = [1, 5, 10].filter(step => step < second).concat(
                     [1, 2, 5, 10, 30, 60, 120, 300, 600, 1800, 3600].map(seconds => seconds * second));
-        return steps.find(step => step * pixelsPerFrame >= DefFontSizeMicro * 3) ?? total;
+        return steps.find(step => step * pixels >= closest) ?? total;
     }
 
     Rectangle {
@@ -41,11 +43,14 @@ Item {
     }
 
     Repeater {
-        model: ruler.tickStep > 0 ? Math.min(400, Math.floor(ruler.total / ruler.tickStep) + 1) : 0
+        // As many as could ever stand there, so that a frame more or less makes none anew.
+        model: Math.ceil(ruler.width / ruler.closest) + 1
         delegate: Rectangle {
             required property int index
+            readonly property int frame: index * ruler.tickStep
 
-            x: Math.round(index * ruler.tickStep * ruler.width / ruler.total)
+            visible: ruler.tickStep > 0 && frame <= ruler.total
+            x: Math.round(frame * ruler.pixelsPerFrame)
             y: ruler.lineY - height
             width: 1
             height: DefFontSizePico

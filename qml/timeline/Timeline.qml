@@ -103,7 +103,7 @@ Rectangle {
 
         anchors.left: parent.left
         anchors.top: controls.bottom
-        anchors.bottom: frameStrip.bottom
+        anchors.bottom: bar.top
         active: MainWindow.projectLoaded
         visible: !timelineBox.compactMode
         width: visible && item ? item.implicitWidth : 0
@@ -153,7 +153,8 @@ Rectangle {
         anchors.left: frameStrip.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        height: Math.min(implicitHeight, timelineBox.unit)
+        // Its room stays while all frames fit, so that nothing jumps.
+        height: timelineBox.barShown ? Math.min(scrollBarW, timelineBox.unit) : 0
         toolTip: qsTr("Scroll the timeline")
         flickable: frameStrip.flickable
         vertical: false

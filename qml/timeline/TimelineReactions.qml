@@ -11,6 +11,14 @@ Item {
 
     // Actions of the model; other numbers are the announcer's own.
     readonly property int firstForeignAction: 1024
+    // The model also tells of a current row that is the same as before, after each change of its rows.
+    property int knownIndex: -1
+
+    // Also brings a row into sight that was current already.
+    function makeCurrent(row) {
+        FramesModel.currentIndex = row;
+        strip.goTo(FramesModel.currentIndex);
+    }
 
     function goToEnd() {
         strip.goToEnd();
@@ -25,19 +33,19 @@ Item {
         enabled: reactions.timeline.visible
 
         function onTimelineGotoStart() {
-            FramesModel.currentIndex = 0;
+            reactions.makeCurrent(0);
         }
 
         function onTimelineGotoEnd() {
-            FramesModel.currentIndex = FramesModel.last();
+            reactions.makeCurrent(FramesModel.last());
         }
 
         function onTimelinePrevFrame() {
-            FramesModel.currentIndex = FramesModel.currentIndex - 1;
+            reactions.makeCurrent(FramesModel.currentIndex - 1);
         }
 
         function onTimelineNextFrame() {
-            FramesModel.currentIndex = FramesModel.currentIndex + 1;
+            reactions.makeCurrent(FramesModel.currentIndex + 1);
         }
 
         function onTimelineSelectFrame() {
@@ -89,8 +97,9 @@ Item {
         }
 
         function onCountChanged() {
+            // Once for all the frames that come in a row.
             if (FramesModel.loaded)
-                reactions.strip.goToLastAccessed();
+                reactions.strip.goToLastAccessedSoon();
         }
 
         function onPlayingChanged() {
@@ -101,8 +110,9 @@ Item {
         }
 
         function onCurrentIndexChanged() {
-            if (!FramesModel.playing)
+            if (!FramesModel.playing && FramesModel.currentIndex !== reactions.knownIndex)
                 reactions.strip.goTo(FramesModel.currentIndex);
+            reactions.knownIndex = FramesModel.currentIndex;
             reactions.timeline.getCurrentMiddleFrame();
         }
 

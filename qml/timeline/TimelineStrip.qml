@@ -10,8 +10,9 @@ Item {
     required property var commands
     readonly property alias flickable: view
     readonly property real viewWidth: view.width
-    readonly property bool connected: view.state === "connected"
+    readonly property bool connected: view.connected
     readonly property bool flashing: cover.visible
+    property bool lastAccessedIsWanted: false
     // Whether the user has moved the list since the frames were loaded.
     property bool movedByHand: false
     readonly property int unit: timeline.unit
@@ -60,7 +61,10 @@ Item {
     }
 
     function goTo(row) {
-        if (row >= 0 && row < view.count)
+        lastAccessedIsWanted = false;
+        const place = placeOf(row);
+        const inSight = place >= 0 && place + frameWidth <= view.width;
+        if (row >= 0 && row < view.count && !inSight)
             view.positionViewAtIndex(row, ListView.Contain);
     }
 
@@ -71,11 +75,23 @@ Item {
 
     function goToEnd() {
         movedByHand = false;
+        lastAccessedIsWanted = false;
         view.positionViewAtEnd();
     }
 
     function goToLastAccessed() {
         goTo(FramesModel.lastAccessedIndex);
+    }
+
+    // Unless another place is gone to first.
+    function goToLastAccessedSoon() {
+        lastAccessedIsWanted = true;
+        Qt.callLater(followLastAccessed);
+    }
+
+    function followLastAccessed() {
+        if (lastAccessedIsWanted)
+            goToLastAccessed();
     }
 
     // While rows multiply the list does without the model.
@@ -104,46 +120,14 @@ Item {
     }
     onThumbWidthChanged: goToMiddle(timeline.currentMiddleFrame)
 
-    ListView {
+    FrameListView {
         id: view
 
         anchors.fill: parent
         anchors.topMargin: Math.floor(frameStrip.unit / 4)
-        orientation: ListView.Horizontal
-        boundsBehavior: Flickable.StopAtBounds
-        highlightFollowsCurrentItem: false
-        cacheBuffer: width / 2
-        reuseItems: true
-        interactive: false
-        state: "connected"
-        states: [
-            State {
-                name: "connected"
-
-                PropertyChanges {
-                    target: view
-                    model: FramesModel
-                    currentIndex: FramesModel.currentIndex
-                }
-            },
-            State {
-                name: "unconnected"
-
-                PropertyChanges {
-                    target: view
-                    model: null
-                    currentIndex: -1
-                }
-            }
-        ]
-        delegate: TimelineFrame {
-            width: frameStrip.frameWidth
-            height: view.height
-            thumbWidth: frameStrip.thumbWidth
-            unit: frameStrip.unit
-        }
-        Accessible.role: Accessible.List
-        Accessible.name: qsTr("Frames")
+        frameWidth: frameStrip.frameWidth
+        thumbWidth: frameStrip.thumbWidth
+        unit: frameStrip.unit
     }
 
     StripHand {

@@ -17,6 +17,13 @@
     </message>
 </context>
 <context>
+    <name>FrameListView</name>
+    <message>
+        <source>Frames</source>
+        <translation>Кадры</translation>
+    </message>
+</context>
+<context>
     <name>ProgressControl</name>
     <message>
         <source>Current frame</source>
@@ -194,13 +201,6 @@
     <message>
         <source>No project. Create or load project to capture, add, remove or modify frames</source>
         <translation>Нет проекта. Создайте или откройте проект, чтобы снимать, добавлять, удалять и изменять кадры</translation>
-    </message>
-</context>
-<context>
-    <name>TimelineStrip</name>
-    <message>
-        <source>Frames</source>
-        <translation>Кадры</translation>
     </message>
 </context>
 </TS>
