@@ -2,8 +2,8 @@
 
 #include <QTest>
 
-/// The layers of the Capture tab's view: which lies on top, how opaque and how large each is, what lies in them and
-/// when they rest.
+/// The layers of the Capture tab's view: which lies on top, how opaque and how large each is, what lies in
+/// them and when they rest.
 class TestDisplayLayers : public QObject
 {
     Q_OBJECT
@@ -57,8 +57,9 @@ private:
     /// The colour of the view beside its middle, once it is that one.
     bool shows(const QColor &color, QPointF place = {0.3, 0.3})
     {
-        return QTest::qWaitFor([=, this] { return DisplayWindow::near(m_film->colorAt(m_film->cameraBox(), place), color); },
-                               3000);
+        return QTest::qWaitFor(
+            [=, this] { return DisplayWindow::near(m_film->colorAt(m_film->cameraBox(), place), color); },
+            3000);
     }
     void fresh(int rows = 3)
     {
@@ -88,7 +89,8 @@ QColor mixed(const QColor &above, const QColor &below, qreal opacity)
     const auto mix = [opacity](int a, int b) {
         return qRound(a * opacity + b * (1 - opacity));
     };
-    return QColor(mix(above.red(), below.red()), mix(above.green(), below.green()), mix(above.blue(), below.blue()));
+    return QColor(mix(above.red(), below.red()), mix(above.green(), below.green()),
+                  mix(above.blue(), below.blue()));
 }
 
 } // namespace
@@ -281,7 +283,8 @@ void TestDisplayLayers::blendMixesTheLayers_data()
     QTest::newRow("none") << int(Zum::NoBlend) << a;
     QTest::newRow("darken") << int(Zum::BlendDarken) << each([](int x, int y) { return std::min(x, y); });
     QTest::newRow("lighten") << int(Zum::BlendLighten) << each([](int x, int y) { return std::max(x, y); });
-    QTest::newRow("difference") << int(Zum::BlendDifference) << each([](int x, int y) { return std::abs(x - y); });
+    QTest::newRow("difference") << int(Zum::BlendDifference)
+                                << each([](int x, int y) { return std::abs(x - y); });
     QTest::newRow("multiply") << int(Zum::BlendMultiply) << each([](int x, int y) { return x * y / 255; });
 }
 
@@ -405,7 +408,8 @@ void TestDisplayLayers::cutPictureIsToldOnlyIfWanted()
     global().setConnected(true);
     global().setTechInfoOn(false);
     QVERIFY(m_film->findItem("toolTip", "The frame size is larger than the camera resolution",
-                             m_film->cameraBox()) == nullptr);
+                             m_film->cameraBox())
+            == nullptr);
     global().setTechInfoOn(true);
 }
 
@@ -422,7 +426,8 @@ void TestDisplayLayers::slightCutIsNotTold()
     QVERIFY(shows(Qt::white));
     QVERIFY(m_film->layers("bigCapturedPicBox.preview.currentCroppedCoefX").toReal() < 0.98);
     QVERIFY(m_film->findItem("toolTip", "The frame size is larger than the camera resolution",
-                             m_film->cameraBox()) == nullptr);
+                             m_film->cameraBox())
+            == nullptr);
     fresh();
 }
 
@@ -443,10 +448,12 @@ void TestDisplayLayers::look()
                 film.global().setSafeAreaOn(true);
                 film.global().setCropAreaOn(true);
                 QTest::qWait(500);
-                film.shot().save(QString("%1/capture-%2-%3-%4.png").arg(out).arg(size.width()).arg(font).arg(locale));
+                film.shot().save(
+                    QString("%1/capture-%2-%3-%4.png").arg(out).arg(size.width()).arg(font).arg(locale));
                 film.global().setMainTabsState("timingUIisOn");
                 QTest::qWait(500);
-                film.shot().save(QString("%1/timing-%2-%3-%4.png").arg(out).arg(size.width()).arg(font).arg(locale));
+                film.shot().save(
+                    QString("%1/timing-%2-%3-%4.png").arg(out).arg(size.width()).arg(font).arg(locale));
                 qDebug() << film.sceneWarnings();
             }
         }
