@@ -64,10 +64,10 @@ Item {
         active: WebcamGlobal.ramHistogramOn && !timingDisplay.empty
         sourceComponent: HistogramPane {
             running: timingDisplay.running && !FramesModel.playing
-            histogramDataY: preview.preview.histogramDataY
-            histogramDataR: preview.preview.histogramDataR
-            histogramDataG: preview.preview.histogramDataG
-            histogramDataB: preview.preview.histogramDataB
+            histogramDataY: Array.from(preview.preview.histogramDataY)
+            histogramDataR: Array.from(preview.preview.histogramDataR)
+            histogramDataG: Array.from(preview.preview.histogramDataG)
+            histogramDataB: Array.from(preview.preview.histogramDataB)
         }
     }
 }

@@ -38,6 +38,8 @@ private slots:
     void viewWithoutEnlargingStaysAtItsSize();
     void viewFollowsItsRoom();
     void viewOfADeviceIsTheDevices();
+    void viewTellsWhereTheFrameLies();
+    void viewAloneMakesNoProjectDirty();
     void closedProjectLetsGoOfThePicture();
 
     void cutPictureIsTold();
@@ -372,6 +374,33 @@ void TestDisplayLayers::viewOfADeviceIsTheDevices()
     QCOMPARE(global().width(), 640);
     global().setConnected(false);
     QTRY_COMPARE(global().width(), 320);
+}
+
+void TestDisplayLayers::viewTellsWhereTheFrameLies()
+{
+    global().setCropAreaW(200);
+    global().setCropAreaH(100);
+    QTRY_COMPARE(global().cropAreaX(), 60);
+    QTRY_COMPARE(global().cropAreaY(), 40);
+    global().setCropAreaW(DisplayWindow::frameWidth);
+    global().setCropAreaH(DisplayWindow::frameHeight);
+    QTRY_COMPARE(global().cropAreaX(), 0);
+}
+
+void TestDisplayLayers::viewAloneMakesNoProjectDirty()
+{
+    global().setProjectChanged(false);
+    m_film->window().resize(1024, 600);
+    frames().setCurrentIndex(1);
+    global().setCoordSystemWidth(700);
+    global().setConnected(true);
+    global().setConnected(false);
+    global().setMainTabsState("timingUIisOn");
+    QVERIFY(m_film->settle());
+    global().setMainTabsState("captureUIisOn");
+    m_film->window().resize(1280, 760);
+    QVERIFY(m_film->waitForPictures());
+    QVERIFY(!global().projectChanged());
 }
 
 void TestDisplayLayers::closedProjectLetsGoOfThePicture()
