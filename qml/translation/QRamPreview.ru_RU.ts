@@ -14,9 +14,5 @@
         <source>Frames play here once the timeline has some.</source>
         <translation>Здесь воспроизводятся кадры, как только они появятся.</translation>
     </message>
-    <message>
-        <source>Reading pictures…</source>
-        <translation>Чтение изображений…</translation>
-    </message>
 </context>
 </TS>
