@@ -134,6 +134,7 @@ private slots:
     void nothingToBlendMeansNoShader();
     void hiddenLayerEndsTheEffect();
     void effectIsABackdropForTheNext();
+    void zoomedViewGetsSharperLayers();
 
 private:
     QImage seen();
@@ -296,6 +297,21 @@ void TestBlendEffect::effectIsABackdropForTheNext()
         painter.drawImage(0, 0, layerPicture(true));
     }
     QCOMPARE(difference(seen(), wanted), QByteArray());
+}
+
+void TestBlendEffect::zoomedViewGetsSharperLayers()
+{
+    set("blend", Zum::BlendMultiply);
+    set("zoom", 2);
+    int textures = 0;
+    const QList<QQuickItem *> below = item("effect")->findChildren<QQuickItem *>();
+    for (const QQuickItem *child : below) {
+        if (!child->inherits("QQuickShaderEffectSource"))
+            continue;
+        QCOMPARE(child->property("textureSize").toSize(), QSize(2 * side, 2 * side));
+        ++textures;
+    }
+    QCOMPARE(textures, 2);
 }
 
 QTEST_MAIN(TestBlendEffect)
