@@ -46,14 +46,13 @@ Item {
         text: qsTr("Frames play here once the timeline has some.")
     }
 
-    TextLabel {
+    BusySign {
         anchors.left: parent.left
         anchors.bottom: parent.bottom
         anchors.margins: Theme.spacing
-        visible: WebcamGlobal.ramPreviewCaching && !FramesModel.playing
-        text: qsTr("Reading pictures…")
-        small: true
-        dim: true
+        width: DefFontSizeNormal_x2
+        height: width
+        running: WebcamGlobal.ramPreviewCaching && !FramesModel.playing && timingDisplay.running
     }
 
     Loader {
@@ -64,10 +63,10 @@ Item {
         active: WebcamGlobal.ramHistogramOn && !timingDisplay.empty
         sourceComponent: HistogramPane {
             running: timingDisplay.running && !FramesModel.playing
-            histogramDataY: preview.preview.histogramDataY
-            histogramDataR: preview.preview.histogramDataR
-            histogramDataG: preview.preview.histogramDataG
-            histogramDataB: preview.preview.histogramDataB
+            histogramDataY: Array.from(preview.preview.histogramDataY)
+            histogramDataR: Array.from(preview.preview.histogramDataR)
+            histogramDataG: Array.from(preview.preview.histogramDataG)
+            histogramDataB: Array.from(preview.preview.histogramDataB)
         }
     }
 }

@@ -2,8 +2,8 @@
 
 #include <QTest>
 
-/// The layers of the Capture tab's view: which lies on top, how opaque and how large each is, what lies in them and
-/// when they rest.
+/// The layers of the Capture tab's view: which lies on top, how opaque and how large each is, what lies in
+/// them and when they rest.
 class TestDisplayLayers : public QObject
 {
     Q_OBJECT
@@ -38,6 +38,8 @@ private slots:
     void viewWithoutEnlargingStaysAtItsSize();
     void viewFollowsItsRoom();
     void viewOfADeviceIsTheDevices();
+    void viewTellsWhereTheFrameLies();
+    void viewAloneMakesNoProjectDirty();
     void closedProjectLetsGoOfThePicture();
 
     void cutPictureIsTold();
@@ -57,8 +59,9 @@ private:
     /// The colour of the view beside its middle, once it is that one.
     bool shows(const QColor &color, QPointF place = {0.3, 0.3})
     {
-        return QTest::qWaitFor([=, this] { return DisplayWindow::near(m_film->colorAt(m_film->cameraBox(), place), color); },
-                               3000);
+        return QTest::qWaitFor(
+            [=, this] { return DisplayWindow::near(m_film->colorAt(m_film->cameraBox(), place), color); },
+            3000);
     }
     void fresh(int rows = 3)
     {
@@ -88,7 +91,8 @@ QColor mixed(const QColor &above, const QColor &below, qreal opacity)
     const auto mix = [opacity](int a, int b) {
         return qRound(a * opacity + b * (1 - opacity));
     };
-    return QColor(mix(above.red(), below.red()), mix(above.green(), below.green()), mix(above.blue(), below.blue()));
+    return QColor(mix(above.red(), below.red()), mix(above.green(), below.green()),
+                  mix(above.blue(), below.blue()));
 }
 
 } // namespace
@@ -281,7 +285,8 @@ void TestDisplayLayers::blendMixesTheLayers_data()
     QTest::newRow("none") << int(Zum::NoBlend) << a;
     QTest::newRow("darken") << int(Zum::BlendDarken) << each([](int x, int y) { return std::min(x, y); });
     QTest::newRow("lighten") << int(Zum::BlendLighten) << each([](int x, int y) { return std::max(x, y); });
-    QTest::newRow("difference") << int(Zum::BlendDifference) << each([](int x, int y) { return std::abs(x - y); });
+    QTest::newRow("difference") << int(Zum::BlendDifference)
+                                << each([](int x, int y) { return std::abs(x - y); });
     QTest::newRow("multiply") << int(Zum::BlendMultiply) << each([](int x, int y) { return x * y / 255; });
 }
 
@@ -371,6 +376,33 @@ void TestDisplayLayers::viewOfADeviceIsTheDevices()
     QTRY_COMPARE(global().width(), 320);
 }
 
+void TestDisplayLayers::viewTellsWhereTheFrameLies()
+{
+    global().setCropAreaW(200);
+    global().setCropAreaH(100);
+    QTRY_COMPARE(global().cropAreaX(), 60);
+    QTRY_COMPARE(global().cropAreaY(), 40);
+    global().setCropAreaW(DisplayWindow::frameWidth);
+    global().setCropAreaH(DisplayWindow::frameHeight);
+    QTRY_COMPARE(global().cropAreaX(), 0);
+}
+
+void TestDisplayLayers::viewAloneMakesNoProjectDirty()
+{
+    global().setProjectChanged(false);
+    m_film->window().resize(1024, 600);
+    frames().setCurrentIndex(1);
+    global().setCoordSystemWidth(700);
+    global().setConnected(true);
+    global().setConnected(false);
+    global().setMainTabsState("timingUIisOn");
+    QVERIFY(m_film->settle());
+    global().setMainTabsState("captureUIisOn");
+    m_film->window().resize(1280, 760);
+    QVERIFY(m_film->waitForPictures());
+    QVERIFY(!global().projectChanged());
+}
+
 void TestDisplayLayers::closedProjectLetsGoOfThePicture()
 {
     global().setProjectChanged(false);
@@ -405,7 +437,8 @@ void TestDisplayLayers::cutPictureIsToldOnlyIfWanted()
     global().setConnected(true);
     global().setTechInfoOn(false);
     QVERIFY(m_film->findItem("toolTip", "The frame size is larger than the camera resolution",
-                             m_film->cameraBox()) == nullptr);
+                             m_film->cameraBox())
+            == nullptr);
     global().setTechInfoOn(true);
 }
 
@@ -422,7 +455,8 @@ void TestDisplayLayers::slightCutIsNotTold()
     QVERIFY(shows(Qt::white));
     QVERIFY(m_film->layers("bigCapturedPicBox.preview.currentCroppedCoefX").toReal() < 0.98);
     QVERIFY(m_film->findItem("toolTip", "The frame size is larger than the camera resolution",
-                             m_film->cameraBox()) == nullptr);
+                             m_film->cameraBox())
+            == nullptr);
     fresh();
 }
 
@@ -443,10 +477,12 @@ void TestDisplayLayers::look()
                 film.global().setSafeAreaOn(true);
                 film.global().setCropAreaOn(true);
                 QTest::qWait(500);
-                film.shot().save(QString("%1/capture-%2-%3-%4.png").arg(out).arg(size.width()).arg(font).arg(locale));
+                film.shot().save(
+                    QString("%1/capture-%2-%3-%4.png").arg(out).arg(size.width()).arg(font).arg(locale));
                 film.global().setMainTabsState("timingUIisOn");
                 QTest::qWait(500);
-                film.shot().save(QString("%1/timing-%2-%3-%4.png").arg(out).arg(size.width()).arg(font).arg(locale));
+                film.shot().save(
+                    QString("%1/timing-%2-%3-%4.png").arg(out).arg(size.width()).arg(font).arg(locale));
                 qDebug() << film.sceneWarnings();
             }
         }
