@@ -547,6 +547,8 @@ void TestRamPreview::eyedropperSeesTheMirroredPicture()
     PreviewWorld::add(shown.world.captured() + "a.png", PreviewWorld::halves({100, 50}));
     shown.item->setMaskingOn(true);
     shown.item->setMirrored(true);
+    // Where a former test has left the mouse it must not stay.
+    QTest::mouseMove(&shown.window, {300, 200});
     shown.show("a.png");
     const QSignalSpy told(shown.item, &RamPreview::setEyedropper);
     shown.item->evokeMousePressEvent(1, 10, 20);
