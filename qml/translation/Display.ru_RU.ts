@@ -4,6 +4,10 @@
 <context>
     <name>Display</name>
     <message>
+        <source>No camera: the captured frame shows</source>
+        <translation>Нет камеры: показан снятый кадр</translation>
+    </message>
+    <message>
         <source>The project is ready. This version cannot connect a camera yet.</source>
         <translation>Проект готов. Подключать камеру эта версия пока не умеет.</translation>
     </message>
