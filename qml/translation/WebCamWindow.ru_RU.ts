@@ -20,7 +20,7 @@
     </message>
     <message>
         <source>Failed to initialize LiveView. Probably your camera does not support this feature</source>
-        <translation>Не удалось включить живую картинку. Возможно, камера её не поддерживает</translation>
+        <translation>Не удалось включить живой вид. Возможно, камера её не поддерживает</translation>
     </message>
     <message>
         <source>Failed to receive image from camera</source>
