@@ -225,12 +225,14 @@ void WebCamWindow::connects(bool)
         takeBusy(false);
         return;
     }
-    startThread();
+    makeThread();
+    // Before the start, for a thread that finds no camera has ended in a moment.
     connectThread();
+    m_thread->start(QThread::HighestPriority);
     emit threadIsRunningChanged();
 }
 
-void WebCamWindow::startThread()
+void WebCamWindow::makeThread()
 {
     WebCamLiveViewThread::Setup setup;
     setup.source = m_environment->makeSource(m_global ? m_global->camindex() : 0);
@@ -245,7 +247,6 @@ void WebCamWindow::startThread()
     setup.histogram = m_histogramOn;
     m_thread = std::make_shared<WebCamLiveViewThread>(std::move(setup));
     postToDisplay(WebCamEvent::AcceptingOn);
-    m_thread->start(QThread::HighestPriority);
 }
 
 void WebCamWindow::connectThread()
