@@ -4,8 +4,13 @@
 #include "app/CursorShapeArea.h"
 #include "app/QNumImput.h"
 #include "app/WheelArea.h"
+#include "preview/Histogram.h"
+#include "preview/QChromaKey.h"
+#include "preview/RamPreview.h"
 #include "shared/Zum.h"
 #include "timeline/Progress.h"
+#include "timeline/RowBand.h"
+#include "timeline/TimelineIndicator.h"
 
 #include <qqml.h>
 #include <QPainterPath>
@@ -26,6 +31,8 @@ void add(const char *name)
 void registerTypes()
 {
     add<Progress>("Progress");
+    add<Histogram>("Histogram");
+    add<RamPreview>("CRamPreview");
     add<Zum>("Zum");
     add<WheelArea>("WheelArea");
     add<CursorShapeArea>("CursorShapeArea");
@@ -34,6 +41,9 @@ void registerTypes()
     qRegisterMetaType<QPolygon>("QPolygon");
     add<ASlider>("Aslider");
     add<QNumImput>("QNumImput");
+    add<QChromaKey>("QChromaKey");
+    add<RowBand>("RowBand");
+    add<TimelineIndicator>("TimelineIndicator");
 }
 
 } // namespace typeregistry

@@ -57,7 +57,7 @@ public:
     {
         return *m_desktop;
     }
-    QQuickItem &root()
+    QQuickItem &root() const
     {
         return *m_window->rootObject();
     }
