@@ -1,5 +1,5 @@
-#include "preview/HistoCalc.h"
 #include "preview/Histogram.h"
+#include "shared/HistoCalc.h"
 
 #include <algorithm>
 #include <numeric>
