@@ -2,7 +2,7 @@ import QtQuick
 import Zum 1.0
 
 // Which capturing device the scene holds: the kinds there are, choosing one and swapping it.
-SceneProject {
+SceneCapture {
     id: sceneDevices
 
     readonly property CameraConnector emptyCamera: CameraConnector {
@@ -39,6 +39,8 @@ SceneProject {
     function loadCapturingPlugin() {
         if (WebcamGlobal.connected)
             return;
+        if (!MainWindow.capturingDeviceObject)
+            MainWindow.capturingDeviceObject = dummy;
         const kind = Number(MainWindow.getSetting("currentCapturingDevice", Zum.CapturingDeviceCanonEOS));
         MainWindow.currentCapturingDevice = kind;
         if (kind === Zum.CapturingDeviceCanonEOS)
@@ -66,6 +68,8 @@ SceneProject {
     DeviceDummy {
         id: dummy
     }
+
+    DeviceList {}
 
     Timer {
         id: reloadPause

@@ -25,6 +25,10 @@ FocusScope {
         showDialog("CamReloadDeviceConfirmDialog.qml");
     }
 
+    function imageQualityBox() {
+        showDialog("ImageQualityDialog.qml");
+    }
+
     function saveConfirmBox() {
         showDialog("SaveConfirmDialog.qml");
     }

@@ -2,6 +2,7 @@
 
 #include "app/MainWindow.h"
 #include "app/WindowQuitHost.h"
+#include "shared/TimeText.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -9,6 +10,9 @@
 AppControllers::AppControllers(AppEnvironment given)
     : environment(std::move(given)), windowFlags(startup::windowFlags(settings())),
       locale(settings(), [this] { return environment.systemLocale; }), devices(global),
+      capture(std::move(environment.cameras), settings()), cameras(global, devices, settings()),
+      shots(global, frames, [this] { return timeStamp(); }),
+      timeLapse(global, frames, std::move(environment.timeLapseTicker)),
       recent(settings(), environment.now), paths(settings(), pathHooks(), QDir::homePath()),
       files(*environment.dialogs, settings(), global,
             [this] { return paths.projPath().isEmpty() ? QString() : paths.projDirPath(); }),
@@ -23,6 +27,11 @@ AppControllers::AppControllers(AppEnvironment given)
 }
 
 AppControllers::~AppControllers() = default;
+
+QString AppControllers::timeStamp() const
+{
+    return morvane::timeStamp(environment.now());
+}
 
 ProjectPaths::Hooks AppControllers::pathHooks()
 {
