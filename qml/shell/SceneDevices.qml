@@ -34,6 +34,8 @@ SceneCapture {
         controls: "NewWebCameraControls.qml"
     }
     readonly property alias deviceDummy: dummy
+    // Where the live picture shows. The device itself stays whatever shows, with a camera connected to it.
+    property Item liveViewPlace: null
     readonly property alias reloadRunning: reloadPause.running
 
     function loadCapturingPlugin() {
@@ -70,6 +72,15 @@ SceneCapture {
     }
 
     DeviceList {}
+
+    Loader {
+        id: deviceHolder
+
+        parent: sceneDevices.liveViewPlace ? sceneDevices.liveViewPlace : sceneDevices
+        anchors.centerIn: parent
+        visible: sceneDevices.liveViewPlace !== null
+        source: MainWindow.cameraQML ? MainWindow.cameraQML.window : ""
+    }
 
     Timer {
         id: reloadPause
