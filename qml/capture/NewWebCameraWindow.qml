@@ -22,8 +22,6 @@ WebCamera {
     property bool floatingPanelVisible: false
     property int batteryLevel: -1
     readonly property ListModel listOfCameras: cameras
-    // What the device did last while saving: when a shot ends without a word, the reason.
-    property string lastAction: ""
     property bool connectAgain: false
 
     function connectOrReconnect() {
@@ -42,13 +40,10 @@ WebCamera {
     }
 
     function hasDisconnected() {
-        const shotUnderWay = WebcamGlobal.capturingInprogress !== -1;
         const again = connectAgain;
         connectAgain = false;
         floatingPanelVisible = false;
-        if (!again)
-            appWindow.cameraGoes(shotUnderWay);
-        WebcamGlobal.capturingInprogress = -1;
+        CaptureWorkflow.dropShot();
         WebcamGlobal.connected = false;
         WebcamGlobal.connectedCamIndex = WebcamGlobal.camindex;
         if (cameras.count > 0)
@@ -79,7 +74,9 @@ WebCamera {
     onFpsChanged: WebcamGlobal.fps = cam.fps
     onMessage: (mtype, mtext) => appWindow.tellOfCamera(mtype, mtext)
     onFrameSaved: appWindow.finishShot()
-    onFrameSaveError: WebcamGlobal.capturingInprogress = -1
+    onFrameSaveError: CaptureWorkflow.dropShot()
+    onFrameNotSaved: CaptureWorkflow.dropShot()
+    onCameraLost: appWindow.cameraGoes()
     onRightClick: {
         WebcamGlobal.eyedropperOn = false;
         floatingPanelVisible = !floatingPanelVisible;
@@ -90,17 +87,9 @@ WebCamera {
         WebcamGlobal.eyedropperColorValue = WebcamGlobal.colorToRgb(colour);
         WebcamGlobal.eyedropperVisible = true;
     }
-    onProgressActionChanged: {
-        MainWindow.progressAction = cam.progressAction;
-        if (cam.progressAction.length > 0)
-            lastAction = cam.progressAction;
-    }
+    onProgressActionChanged: MainWindow.progressAction = cam.progressAction
     onProgressCurrentChanged: MainWindow.progressCurrent = cam.progressCurrent
-    onProgressTotalChanged: {
-        MainWindow.progressTotal = cam.progressTotal;
-        if (cam.progressTotal === 0)
-            appWindow.abandonShot(lastAction);
-    }
+    onProgressTotalChanged: MainWindow.progressTotal = cam.progressTotal
     onConnectedChanged: {
         if (cam.connected)
             hasConnected();

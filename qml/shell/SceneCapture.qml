@@ -8,8 +8,6 @@ SceneProject {
 
     // The frame of the film is being drawn on the live picture.
     property bool choosingCropArea: false
-    // The camera goes because somebody wants it to.
-    property bool disconnectAsked: false
 
     function nextShot() {
         return CaptureWorkflow.nextShot(MainWindow.capFullDirPath, MainWindow.capTumbDirPath);
@@ -38,13 +36,11 @@ SceneProject {
             saveProject(Zum.SaveProjectXMLonly);
     }
 
-    // For the device's wrapper: the camera has gone; its shared state still says that it is there.
-    function cameraGoes(shotUnderWay) {
-        if (disconnectAsked)
-            return;
+    // For the device's wrapper: the camera has gone by itself, and the shared state still says that it is there.
+    function cameraGoes() {
         TimeLapse.cameraLost();
         CameraList.cameraLost();
-        tellOfCamera(Zum.Warning, shotUnderWay
+        tellOfCamera(Zum.Warning, WebcamGlobal.capturingInprogress !== -1
             ? qsTr("The camera is gone, and the last shot with it. Everything shot before is in the project. Connect the camera again to go on")
             : qsTr("The camera is gone. Everything shot so far is in the project. Connect the camera again to go on"));
     }
@@ -74,14 +70,6 @@ SceneProject {
 
         function onDoCaptureFrame() {
             sceneCapture.doCaptureFrame();
-        }
-
-        function onCapturingDeviceConnect() {
-            sceneCapture.disconnectAsked = false;
-        }
-
-        function onCapturingDeviceDisconnect() {
-            sceneCapture.disconnectAsked = true;
         }
 
         function onImageQualityError() {

@@ -4,6 +4,8 @@
 #include "app/CursorShapeArea.h"
 #include "app/QNumImput.h"
 #include "app/WheelArea.h"
+#include "capture/OsSpecific.h"
+#include "capture/webcam/WebCamWindow.h"
 #include "shared/Zum.h"
 #include "timeline/Progress.h"
 
@@ -25,6 +27,7 @@ void add(const char *name)
 
 void registerTypes()
 {
+    add<WebCamWindow>("WebCamera");
     add<Progress>("Progress");
     add<Zum>("Zum");
     add<WheelArea>("WheelArea");
@@ -34,6 +37,7 @@ void registerTypes()
     qRegisterMetaType<QPolygon>("QPolygon");
     add<ASlider>("Aslider");
     add<QNumImput>("QNumImput");
+    add<OsSpecific>("OsSpecific");
 }
 
 } // namespace typeregistry
