@@ -10,7 +10,7 @@ SceneDevices {
     readonly property alias robotMessgModel: messages.robotMessgModel
     readonly property alias dialog: dialogLayer
     readonly property alias popup: popupMessage
-    property int adding: 0
+    readonly property alias adding: repainting.adding
 
     width: MainWindow.windowSize.width
     height: MainWindow.windowSize.height
@@ -26,11 +26,11 @@ SceneDevices {
     }
 
     function rescale() {
-        WebcamGlobal.calculateDisplayAndCoordSystemScale(screenArea.width, screenArea.height);
+        WebcamGlobal.calculateDisplayAndCoordSystemScale(screenArea.roomWidth, screenArea.roomHeight);
     }
 
     function repaint() {
-        repaintSteps.restart();
+        repainting.start();
     }
 
     function toggleFullscreen() {
@@ -106,7 +106,7 @@ SceneDevices {
     ScreenArea {
         id: screenArea
 
-        anchors.left: mainControlBox.right
+        anchors.left: screenControls.right
         anchors.right: controlsPanesBox.left
         anchors.top: topLine.bottom
         anchors.bottom: timelineBox.top
@@ -114,8 +114,33 @@ SceneDevices {
         anchors.bottomMargin: (timelineBox.scale - 1) * timelineBox.height
         visible: tabRules.screenShown
         scene: appWindow
-        onWidthChanged: appWindow.rescale()
-        onHeightChanged: appWindow.rescale()
+        rules: displayRules
+        timingSize: ramPreviewSize
+        tabsShown: tabRules.screenControlsShown
+        onRoomWidthChanged: appWindow.rescale()
+        onRoomHeightChanged: appWindow.rescale()
+    }
+
+    DisplayRules {
+        id: displayRules
+    }
+
+    TimingSize {
+        id: ramPreviewSize
+    }
+
+    ScreenControls {
+        id: screenControls
+
+        z: 100
+        anchors.left: mainControlBox.right
+        anchors.top: screenArea.top
+        anchors.bottom: screenArea.bottom
+        shown: tabRules.screenControlsShown
+        scene: appWindow
+        timingSize: ramPreviewSize
+        capturePixelZoom: screenArea.capturePixelZoom
+        timingPixelZoom: screenArea.timingPixelZoom
     }
 
     DocsView {
@@ -214,30 +239,8 @@ SceneDevices {
 
     Autosave {}
 
-    // A pixel that comes and goes, so that the window draws itself anew.
-    Rectangle {
-        width: appWindow.adding
-        height: 1
-        color: globalFonColor
-    }
-
-    Timer {
-        id: repaintSteps
-
-        property int left: 0
-
-        interval: 100
-        repeat: true
-        onRunningChanged: {
-            if (running)
-                left = 4;
-        }
-        onTriggered: {
-            appWindow.adding = left % 2 === 0 ? 1 : 0;
-            left -= 1;
-            if (left === 0)
-                stop();
-        }
+    Repainting {
+        id: repainting
     }
 
     KeyShortcuts {

@@ -41,6 +41,10 @@ FocusScope {
         showDialog("ProjectPresets.qml");
     }
 
+    function postProcessFiltersBox() {
+        showDialog("PostProcessFiltersDialog.qml");
+    }
+
     function aboutBox() {
         showDialog("About.qml");
     }

@@ -6,6 +6,9 @@
 #include "app/WheelArea.h"
 #include "capture/OsSpecific.h"
 #include "capture/webcam/WebCamWindow.h"
+#include "preview/Histogram.h"
+#include "preview/QChromaKey.h"
+#include "preview/RamPreview.h"
 #include "shared/Zum.h"
 #include "timeline/Progress.h"
 
@@ -29,6 +32,8 @@ void registerTypes()
 {
     add<WebCamWindow>("WebCamera");
     add<Progress>("Progress");
+    add<Histogram>("Histogram");
+    add<RamPreview>("CRamPreview");
     add<Zum>("Zum");
     add<WheelArea>("WheelArea");
     add<CursorShapeArea>("CursorShapeArea");
@@ -37,6 +42,7 @@ void registerTypes()
     qRegisterMetaType<QPolygon>("QPolygon");
     add<ASlider>("Aslider");
     add<QNumImput>("QNumImput");
+    add<QChromaKey>("QChromaKey");
     add<OsSpecific>("OsSpecific");
 }
 

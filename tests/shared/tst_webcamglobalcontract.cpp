@@ -201,13 +201,28 @@ void TestWebcamGlobalContract::commandSignalIsThere()
 void TestWebcamGlobalContract::slotIsThere_data()
 {
     QTest::addColumn<QByteArray>("signature");
-    for (const char *signature :
-         {"calculateDisplayAndCoordSystemScale(int,int)", "updateCropAreaScale(qreal,qreal)",
-          "updateExportSizes()", "checkUserInactivity()", "ensureDirSeparator(QString)", "timeStamp()",
-          "millisecondsToHHMMSS(int)", "roundUp(int)", "stringIconName(int)", "getBlendName(int)",
-          "videoExportPolicyIcon(int)", "hueShift(QColor,qreal)", "saturationShift(QColor,qreal)",
-          "hsla(QColor)", "colorToRgb(QColor)", "lighterColor(QColor,qreal)",
-          "yCbCrToRgb(qreal,qreal,qreal,qreal)", "yCbCrToRgb(qreal,qreal,qreal)", "colorNameToHue(QString)"})
+    for (const char *signature : {"calculateDisplayAndCoordSystemScale(int,int)",
+                                  "updateCropAreaScale(qreal,qreal)",
+                                  "updateExportSizes()",
+                                  "setPostProcessSetting(QString,QVariant)",
+                                  "removePostProcessSetting(QString)",
+                                  "getPostProcessSetting(QString,QVariant)",
+                                  "checkUserInactivity()",
+                                  "ensureDirSeparator(QString)",
+                                  "timeStamp()",
+                                  "millisecondsToHHMMSS(int)",
+                                  "roundUp(int)",
+                                  "stringIconName(int)",
+                                  "getBlendName(int)",
+                                  "videoExportPolicyIcon(int)",
+                                  "hueShift(QColor,qreal)",
+                                  "saturationShift(QColor,qreal)",
+                                  "hsla(QColor)",
+                                  "colorToRgb(QColor)",
+                                  "lighterColor(QColor,qreal)",
+                                  "yCbCrToRgb(qreal,qreal,qreal,qreal)",
+                                  "yCbCrToRgb(qreal,qreal,qreal)",
+                                  "colorNameToHue(QString)"})
         QTest::newRow(signature) << QMetaObject::normalizedSignature(signature);
 }
 
