@@ -49,10 +49,6 @@ Column {
         }
     }
 
-    FlipFlop {
-        width: parent.width
-    }
-
     HistogramBox {
         width: parent.width
     }

@@ -1,6 +1,6 @@
 import QtQuick
 
-// What capturing lays over the picture: the bar of the right click, the drawn frame, the colour under the pointer,
+// What capturing lays over the picture: the drawn frame, the colour under the pointer,
 // and a button that wakes a live view which has fallen asleep.
 Item {
     id: overlay
@@ -22,12 +22,6 @@ Item {
             WebcamGlobal.userIsInactive = false;
             WebcamGlobal.paused = false;
         }
-    }
-
-    SimpleDisplayDisconnector {
-        anchors.horizontalCenter: parent.horizontalCenter
-        anchors.bottom: parent.bottom
-        anchors.bottomMargin: Theme.padding
     }
 
     EyedropperInfo {}

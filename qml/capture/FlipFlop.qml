@@ -1,22 +1,22 @@
 import QtQuick
 import Zum 1.0
 
-// Blinks the captured frame over the live picture, to see what has moved.
-Pane {
+// Blinks the frame against the live picture, to see what has moved.
+Column {
     id: flipFlop
 
     readonly property var kinds: [Zum.NoFlipFlop, Zum.FlashFlipFlop, Zum.FadeFlipFlop]
     readonly property int stepMs: 500
 
-    title: qsTr("Flip-Flop")
+    width: parent.width
+    spacing: Theme.spacing
 
     ChoiceRow {
         objectName: "flipFlopKind"
         width: parent.width
-        label: flipFlop.title
+        label: qsTr("Flip-Flop")
         toolTip: qsTr("Blink the captured frame over the live view")
         model: [qsTr("Off"), qsTr("Flash"), qsTr("Fade")]
-        active: WebcamGlobal.connected && FramesModel.framesCount > 0 || WebcamGlobal.flipFlop !== Zum.NoFlipFlop
         currentIndex: flipFlop.kinds.indexOf(WebcamGlobal.flipFlop)
         onChosen: index => WebcamGlobal.flipFlop = flipFlop.kinds[index]
     }

@@ -1,4 +1,5 @@
 import QtQuick
+import Histogram 1.0
 
 // How bright and how colourful the live picture is: how much of it each value from dark to light takes.
 Pane {
@@ -7,10 +8,10 @@ Pane {
     readonly property var device: MainWindow.capturingDeviceObject
 
     readonly property var channels: [
-        { key: "histogramYChannelOn", text: "Y", name: qsTr("Brightness"), colour: "#b0b0b0" },
-        { key: "histogramRChannelOn", text: "R", name: qsTr("Red"), colour: "#e0574a" },
-        { key: "histogramGChannelOn", text: "G", name: qsTr("Green"), colour: "#4fae4a" },
-        { key: "histogramBChannelOn", text: "B", name: qsTr("Blue"), colour: "#4a7fe0" }
+        { key: "histogramYChannelOn", text: "Y", name: qsTr("Brightness"), colour: "#99b0b0b0" },
+        { key: "histogramRChannelOn", text: "R", name: qsTr("Red"), colour: "#99e0574a" },
+        { key: "histogramGChannelOn", text: "G", name: qsTr("Green"), colour: "#994fae4a" },
+        { key: "histogramBChannelOn", text: "B", name: qsTr("Blue"), colour: "#994a7fe0" }
     ]
     property var shown: channels.map(channel => asBool(MainWindow.getSetting(channel.key, true)))
 
@@ -27,7 +28,7 @@ Pane {
     }
 
     function dataOf(index) {
-        if (!device || !shown[index])
+        if (!device)
             return [];
         return [device.histogramDataY, device.histogramDataR, device.histogramDataG, device.histogramDataB][index];
     }
@@ -74,14 +75,18 @@ Pane {
 
         Repeater {
             model: histogramBox.channels
-            delegate: HistogramCurve {
+            delegate: Histogram {
                 required property int index
                 required property var modelData
+                readonly property var counts: histogramBox.dataOf(index)
 
                 objectName: "curve" + modelData.text
                 anchors.fill: parent
-                colour: modelData.colour
-                values: histogramBox.dataOf(index)
+                // The tallest channel stands at the back, where it hides no other.
+                z: counts.length > 0 ? -counts[counts.length - 1] : 0
+                running: histogramBox.shown[index]
+                bodyColor: modelData.colour
+                histogramData: counts
             }
         }
     }

@@ -32,17 +32,25 @@ WebCamera {
             cam.connects();
     }
 
+    // Without a camera the view has a size of its own.
+    function tellSize() {
+        if (!cam.connected)
+            return;
+        WebcamGlobal.width = cam.width;
+        WebcamGlobal.height = cam.height;
+        appWindow.rescale();
+    }
+
     function hasConnected() {
         WebcamGlobal.connected = true;
+        tellSize();
         WebcamGlobal.connectedCamIndex = WebcamGlobal.camindex;
         appWindow.tellOfCamera(Zum.Info, qsTr("Connected"));
-        appWindow.rescale();
     }
 
     function hasDisconnected() {
         const again = connectAgain;
         connectAgain = false;
-        floatingPanelVisible = false;
         CaptureWorkflow.dropShot();
         WebcamGlobal.connected = false;
         WebcamGlobal.connectedCamIndex = WebcamGlobal.camindex;
@@ -53,8 +61,8 @@ WebCamera {
     }
 
     global: WebcamGlobal
-    availWidth: screenArea.width
-    availHeight: screenArea.height
+    availWidth: screenArea.roomWidth
+    availHeight: screenArea.roomHeight
     grayscale: WebcamGlobal.grayscale
     rotate: WebcamGlobal.rotate
     renderSmooth: WebcamGlobal.smoothRender
@@ -68,8 +76,8 @@ WebCamera {
         yScale: WebcamGlobal.displayScale
     }
 
-    onWidthChanged: WebcamGlobal.width = cam.width
-    onHeightChanged: WebcamGlobal.height = cam.height
+    onWidthChanged: tellSize()
+    onHeightChanged: tellSize()
     onBusyChanged: WebcamGlobal.ready = !cam.busy
     onFpsChanged: WebcamGlobal.fps = cam.fps
     onMessage: (mtype, mtext) => appWindow.tellOfCamera(mtype, mtext)
@@ -77,10 +85,6 @@ WebCamera {
     onFrameSaveError: CaptureWorkflow.dropShot()
     onFrameNotSaved: CaptureWorkflow.dropShot()
     onCameraLost: appWindow.cameraGoes()
-    onRightClick: {
-        WebcamGlobal.eyedropperOn = false;
-        floatingPanelVisible = !floatingPanelVisible;
-    }
     onSetEyedropper: (mouse, colour) => {
         WebcamGlobal.eyedropperPos = mouse;
         WebcamGlobal.eyedropperColor = colour;
@@ -98,8 +102,6 @@ WebCamera {
     }
     Component.onCompleted: {
         WebcamGlobal.ready = !cam.busy;
-        WebcamGlobal.width = cam.width;
-        WebcamGlobal.height = cam.height;
         MainWindow.capturingDeviceObject = cam;
     }
 
