@@ -196,7 +196,7 @@ void drawWalker(QPainter &painter, const Pose &pose)
     painter.rotate(20 + pose.lift * 3);
     painter.drawRoundedRect(QRectF(-12, 0, 22, 62), 8, 8);
     painter.restore();
-    drawLimb(painter, {26, -138}, pose.stride - 150 * pose.wave, 56, QColor(222, 112, 72));
+    drawLimb(painter, {26, -138}, pose.stride - 150 * pose.wave, 56, QColor(240, 140, 98));
     painter.restore();
 }
 
