@@ -96,7 +96,10 @@ Item {
     }
 
     visible: false
-    Component.onCompleted: followDoubleDecker()
+    Component.onCompleted: {
+        followDoubleDecker();
+        WebcamGlobal.flickInteractive = true;
+    }
 
     Connections {
         target: WebcamGlobal

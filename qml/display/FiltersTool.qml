@@ -8,7 +8,7 @@ Column {
     required property var scene
     readonly property bool filtering: WebcamGlobal.postProcessing === Zum.NonRealtimeProcessing
 
-    signal left()
+    signal leaving()
 
     width: parent.width
     spacing: Theme.spacing
@@ -27,7 +27,7 @@ Column {
         icon: "svgicons/settings.svg"
         toolTip: qsTr("Contrast, colours, noise, key colour and background")
         onClicked: {
-            filtersTool.left();
+            filtersTool.leaving();
             filtersTool.scene.postProcessFiltersBox();
         }
     }

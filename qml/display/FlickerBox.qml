@@ -65,16 +65,6 @@ Item {
     onContentWidthChanged: moveTo(shiftX, shiftY)
     onContentHeightChanged: moveTo(shiftX, shiftY)
 
-    WheelHandler {
-        target: null
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-        acceptedModifiers: Qt.KeyboardModifierMask
-        onWheel: event => {
-            if (event.angleDelta.y !== 0)
-                flicker.zoomTo(flicker.zoom * Math.pow(1.2, event.angleDelta.y / 120), event.x, event.y);
-        }
-    }
-
     component Mover: DragHandler {
         property point start: Qt.point(0, 0)
 
@@ -82,28 +72,6 @@ Item {
         cursorShape: active ? Qt.ClosedHandCursor : undefined
         onActiveChanged: start = Qt.point(flicker.shiftX, flicker.shiftY)
         onActiveTranslationChanged: flicker.moveTo(start.x + activeTranslation.x, start.y + activeTranslation.y)
-    }
-
-    Mover {
-        acceptedButtons: Qt.MiddleButton
-        dragThreshold: 0
-    }
-
-    Mover {
-        enabled: flicker.leftButtonMoves && flicker.movable
-        acceptedButtons: Qt.LeftButton
-    }
-
-    TapHandler {
-        enabled: flicker.leftButtonMoves
-        acceptedButtons: Qt.LeftButton
-        gesturePolicy: TapHandler.DragThreshold
-        onDoubleTapped: flicker.fit()
-    }
-
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        onTapped: flicker.rightClicked()
     }
 
     Item {
@@ -115,5 +83,42 @@ Item {
         height: flicker.contentHeight
         transformOrigin: Item.TopLeft
         scale: flicker.zoom
+    }
+
+    // In front, or what the view shows would keep the presses that begin a drag.
+    Item {
+        anchors.fill: parent
+
+        WheelHandler {
+            target: null
+            acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+            acceptedModifiers: Qt.KeyboardModifierMask
+            onWheel: event => {
+                if (event.angleDelta.y !== 0)
+                    flicker.zoomTo(flicker.zoom * Math.pow(1.2, event.angleDelta.y / 120), event.x, event.y);
+            }
+        }
+
+        Mover {
+            acceptedButtons: Qt.MiddleButton
+            dragThreshold: 0
+        }
+
+        Mover {
+            enabled: flicker.leftButtonMoves && flicker.movable
+            acceptedButtons: Qt.LeftButton
+        }
+
+        TapHandler {
+            enabled: flicker.leftButtonMoves
+            acceptedButtons: Qt.LeftButton
+            gesturePolicy: TapHandler.DragThreshold
+            onDoubleTapped: flicker.fit()
+        }
+
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            onTapped: flicker.rightClicked()
+        }
     }
 }

@@ -125,7 +125,7 @@ Rectangle {
 
                 FiltersTool {
                     scene: screenControls.scene
-                    onLeft: filters.close()
+                    onLeaving: filters.close()
                 }
             }
 

@@ -1,5 +1,6 @@
 #include "DisplayWindow.h"
 
+#include <QQmlError>
 #include <QTest>
 
 namespace {
@@ -33,6 +34,10 @@ ShellWindow::Options DisplayWindow::options(QSize size)
 
 DisplayWindow::DisplayWindow(int rows, const ShellWindow::Options &options) : ShellWindow(options)
 {
+    QObject::connect(qmlEngine(&root()), &QQmlEngine::warnings, &window(), [this](const QList<QQmlError> &errors) {
+        for (const QQmlError &error : errors)
+            m_engineWarnings.append(error.toString());
+    });
     if (!createProject())
         qFatal("No project");
     global().setScaleDelay(std::chrono::milliseconds(1));

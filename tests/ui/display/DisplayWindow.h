@@ -38,5 +38,15 @@ public:
     /// The colour in the middle of an item, or at a place of it from 0 to 1.
     QColor colorAt(QQuickItem *item, QPointF place = {0.5, 0.5});
 
+    /// What the scene's engine has warned of; unlike sceneWarnings() also when the window serves several test
+    /// functions.
+    QStringList warnings() const
+    {
+        return m_engineWarnings;
+    }
+
     static bool near(const QColor &a, const QColor &b, int tolerance = 6);
+
+private:
+    QStringList m_engineWarnings;
 };

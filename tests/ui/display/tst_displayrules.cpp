@@ -1,8 +1,6 @@
-#include "support/ShellWindow.h"
+#include "DisplayWindow.h"
 
 #include <QTest>
-
-using State = const char *;
 
 /// What excludes what in the view of the Capture tab: each rule by name, in the whole program.
 class TestDisplayRules : public QObject
@@ -10,8 +8,10 @@ class TestDisplayRules : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void cleanup();
+    void cleanupTestCase();
 
     void blendTurnsOffGrayscaleEyedropperAndFlipFlop();
     void noBlendTurnsNothingOff();
@@ -33,7 +33,6 @@ private slots:
     void oneRowHidesTheReference();
     void twoRowsShowTheReference();
     void referenceCannotStayOnTopWithOneRow();
-    void startWithOneRowHidesTheReference();
 
     void tabKeyGoesRound_data();
     void tabKeyGoesRound();
@@ -42,15 +41,16 @@ private slots:
     void directCommandsStandStillDuringFlipFlop();
     void projectStartsWithTheLiveView();
     void projectStartsWithEverythingOff();
+    void startWithOneRowHidesTheReference();
 
 private:
     WebcamGlobal &global()
     {
-        return m_shell->global();
+        return m_film->global();
     }
     FramesModel &frames()
     {
-        return m_shell->frames();
+        return m_film->frames();
     }
     void startFlipFlop(int type = Zum::FadeFlipFlop)
     {
@@ -58,23 +58,39 @@ private:
         QVERIFY(global().flipFlopRunning());
     }
 
-    std::unique_ptr<ShellWindow> m_shell;
+    std::unique_ptr<DisplayWindow> m_film;
     const QString live = QStringLiteral("liveViewPreviewIsOn");
     const QString captured = QStringLiteral("capturePreviewIsOn");
     const QString reference = QStringLiteral("referencePreviewIsOn");
 };
 
+void TestDisplayRules::initTestCase()
+{
+    m_film = std::make_unique<DisplayWindow>(4);
+}
+
 void TestDisplayRules::init()
 {
-    m_shell = std::make_unique<ShellWindow>();
-    QVERIFY(m_shell->createProject());
+    if (!m_film->window().projectLoaded())
+        QVERIFY(m_film->createProject(QString::fromLatin1(QTest::currentTestFunction())));
+    global().setStackMode(Zum::NoStack);
+    global().setFlipFlop(Zum::NoFlipFlop);
+    global().setBlend(Zum::NoBlend);
+    global().setGrayscale(false);
+    global().setEyedropperOn(false);
+    global().setConnected(false);
     frames().setDoubleDecker(true);
+    global().setCamboxState(live);
 }
 
 void TestDisplayRules::cleanup()
 {
-    QCOMPARE(m_shell->sceneWarnings(), QStringList());
-    m_shell.reset();
+    QCOMPARE(m_film->warnings(), QStringList());
+}
+
+void TestDisplayRules::cleanupTestCase()
+{
+    m_film.reset();
 }
 
 void TestDisplayRules::blendTurnsOffGrayscaleEyedropperAndFlipFlop()
@@ -184,7 +200,7 @@ void TestDisplayRules::playbackTurnsOffStackFlipFlopAndBlend_data()
 void TestDisplayRules::playbackTurnsOffStackFlipFlopAndBlend()
 {
     QFETCH(bool, stacked);
-    m_shell->addFrames(4);
+    frames().setTimelineRangeStart(0);
     frames().setTimelineRangeEnd(3);
     if (stacked) {
         global().setStackMode(Zum::StackPast);
@@ -277,13 +293,6 @@ void TestDisplayRules::referenceCannotStayOnTopWithOneRow()
     QCOMPARE(global().camboxState(), captured);
 }
 
-void TestDisplayRules::startWithOneRowHidesTheReference()
-{
-    ShellWindow fresh;
-    QVERIFY(!fresh.frames().doubleDecker());
-    QCOMPARE(fresh.global().opacityReference(), 0.0);
-}
-
 void TestDisplayRules::tabKeyGoesRound_data()
 {
     QTest::addColumn<bool>("twoRows");
@@ -304,7 +313,7 @@ void TestDisplayRules::tabKeyGoesRound()
         global().setStackMode(Zum::StackPast);
     global().setCamboxState(live);
     for (const QString &state : std::as_const(states)) {
-        m_shell->press(Qt::Key_Tab);
+        m_film->press(Qt::Key_Tab);
         QCOMPARE(global().camboxState(), state);
     }
 }
@@ -312,15 +321,15 @@ void TestDisplayRules::tabKeyGoesRound()
 void TestDisplayRules::tabKeyStandsStillDuringFlipFlop()
 {
     startFlipFlop();
-    m_shell->press(Qt::Key_Tab);
+    m_film->press(Qt::Key_Tab);
     QCOMPARE(global().camboxState(), captured);
 }
 
 void TestDisplayRules::spaceKeyShowsTheCapturedFrame()
 {
-    QTest::keyPress(&m_shell->window(), Qt::Key_Space);
+    QTest::keyPress(&m_film->window(), Qt::Key_Space);
     QCOMPARE(global().camboxState(), captured);
-    QTest::keyRelease(&m_shell->window(), Qt::Key_Space);
+    QTest::keyRelease(&m_film->window(), Qt::Key_Space);
     QCOMPARE(global().camboxState(), live);
 }
 
@@ -342,11 +351,11 @@ void TestDisplayRules::directCommandsStandStillDuringFlipFlop()
 void TestDisplayRules::projectStartsWithTheLiveView()
 {
     global().setCamboxState(captured);
-    m_shell->window().closeProject();
-    QTRY_VERIFY(!m_shell->window().projectLoaded());
+    m_film->window().closeProject();
+    QTRY_VERIFY(!m_film->window().projectLoaded());
     QCOMPARE(global().camboxState(), live);
     global().setCamboxState(captured);
-    QVERIFY(m_shell->createProject("other"));
+    QVERIFY(m_film->createProject("other"));
     QCOMPARE(global().camboxState(), live);
 }
 
@@ -355,12 +364,19 @@ void TestDisplayRules::projectStartsWithEverythingOff()
     global().setStackMode(Zum::StackPast);
     global().setOpacityLiveView(10);
     global().setCamScaleFactor(4);
-    QVERIFY(m_shell->createProject("other"));
+    QVERIFY(m_film->createProject("other"));
     QCOMPARE(global().stackMode(), int(Zum::NoStack));
     QCOMPARE(global().opacityCaptured(), 100.0);
     QCOMPARE(global().opacityLiveView(), 100.0);
     QCOMPARE(global().opacityReference(), 100.0);
     QCOMPARE(global().camScaleFactor(), 1.0);
+}
+
+void TestDisplayRules::startWithOneRowHidesTheReference()
+{
+    ShellWindow fresh;
+    QVERIFY(!fresh.frames().doubleDecker());
+    QCOMPARE(fresh.global().opacityReference(), 0.0);
 }
 
 QTEST_MAIN(TestDisplayRules)
