@@ -30,7 +30,8 @@ Pane {
     function dataOf(index) {
         if (!device)
             return [];
-        return [device.histogramDataY, device.histogramDataR, device.histogramDataG, device.histogramDataB][index];
+        const all = [device.histogramDataY, device.histogramDataR, device.histogramDataG, device.histogramDataB];
+        return Array.from(all[index], Number);
     }
 
     title: qsTr("Histogram")

@@ -38,7 +38,7 @@ WebCamera {
             return;
         WebcamGlobal.width = cam.width;
         WebcamGlobal.height = cam.height;
-        appWindow.rescale();
+        appWindow.fitNow();
     }
 
     function hasConnected() {

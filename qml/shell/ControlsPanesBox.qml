@@ -22,7 +22,7 @@ Rectangle {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
-        anchors.bottom: tabsPlace.top
+        anchors.bottom: bottomPlace.top
         anchors.margins: DefFontSizeMicro
         contentHeight: panes.height
         boundsBehavior: Flickable.StopAtBounds
@@ -41,7 +41,7 @@ Rectangle {
                 active: MainWindow.projectLoaded
                 visible: controlsPanesBox.captures
                 sourceComponent: CaptureControlsPane {
-                    tabsPlace: controlsPanesBox.roomy ? tabsPlace : null
+                    tabsPlace: controlsPanesBox.roomy ? bottomPlace : null
                 }
             }
 
@@ -56,7 +56,7 @@ Rectangle {
     }
 
     Item {
-        id: tabsPlace
+        id: bottomPlace
 
         anchors.left: parent.left
         anchors.right: parent.right

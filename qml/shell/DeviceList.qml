@@ -51,7 +51,9 @@ Item {
             system.getDevices();
         }
 
+        // Handlers of the scene come before those of the list, which would store the index too late for itself.
         function onCamindexChanged() {
+            MainWindow.addSetting("lastWebcamIndex", WebcamGlobal.camindex);
             CameraList.refreshCamName();
         }
 

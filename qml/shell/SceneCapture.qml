@@ -45,6 +45,19 @@ SceneProject {
             : qsTr("The camera is gone. Everything shot so far is in the project. Connect the camera again to go on"));
     }
 
+    // Fits a picture that has just come, or come in another size, without the wait that a window being drawn
+    // larger needs.
+    function fitNow() {
+        const fit = Math.min(screenArea.roomWidth / Math.max(1, WebcamGlobal.width),
+                             screenArea.roomHeight / Math.max(1, WebcamGlobal.height));
+        const scale = WebcamGlobal.resize ? fit : Math.min(fit, 1);
+        if (WebcamGlobal.paused || !(scale > 0))
+            return;
+        const cut = Math.min(1, WebcamGlobal.width / Math.max(1, WebcamGlobal.coordSystemWidth));
+        WebcamGlobal.displayScale = scale;
+        WebcamGlobal.coordSystemScale = Math.fround(Math.round(cut * scale * 10000) / 10000);
+    }
+
     function tellOfCamera(type, text) {
         WebcamGlobal.appendMessage(Zum.CameraMessage, type, text);
     }
