@@ -76,6 +76,7 @@ void CaptureWorkflow::finishShot()
     makeRoomToReplace();
     m_frames.modifyFrame(record, m_frames.currentIndex(), false, true);
     emit m_frames.timelineChanged(Zum::ActInsert);
+    emit shotReplaced(m_frames.currentIndex());
 }
 
 void CaptureWorkflow::dropShot()

@@ -44,6 +44,11 @@ public:
     /// the amount of frames per shot or the mode changes.
     Q_INVOKABLE void makeRoomToReplace();
 
+signals:
+    /// A shot has taken the place of a frame. The timeline tells addedJustCapturedFrame() of added frames
+    /// alone, and the project is to be saved after these as well.
+    void shotReplaced(int row);
+
 private:
     int rowToFill() const;
 

@@ -24,16 +24,22 @@ public:
         black->setRect(area);
     }
 
-    /// Tells whether the node is new and has no texture yet.
-    bool showPicture(QQuickWindow *window)
+    /// A texture of null leaves the one that is there.
+    void showPicture(QQuickWindow *window, QSGTexture *texture)
     {
         drop(black);
-        if (picture)
-            return false;
-        picture = window->createImageNode();
-        picture->setOwnsTexture(true);
-        appendChildNode(picture);
-        return true;
+        const bool isNew = !picture;
+        if (isNew) {
+            picture = window->createImageNode();
+            picture->setOwnsTexture(true);
+        }
+        if (texture) {
+            picture->setTexture(texture);
+            picture->setSourceRect(QRectF(QPointF(), texture->textureSize()));
+        }
+        // Not before it has its texture, for the renderer looks at it at once.
+        if (isNew)
+            appendChildNode(picture);
     }
 
 private:
@@ -182,13 +188,11 @@ QSGNode *LiveViewItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
         node->showBlack(window(), boundingRect());
         return node;
     }
-    if (node->showPicture(window()) || m_pictureIsNew) {
-        QSGTexture *texture =
-            window()->createTextureFromImage(opaqueView(m_picture), QQuickWindow::TextureIsOpaque);
-        node->picture->setTexture(texture);
-        node->picture->setSourceRect(QRectF(QPointF(), texture->textureSize()));
-        m_pictureIsNew = false;
-    }
+    QSGTexture *texture = nullptr;
+    if (!node->picture || m_pictureIsNew)
+        texture = window()->createTextureFromImage(opaqueView(m_picture), QQuickWindow::TextureIsOpaque);
+    m_pictureIsNew = false;
+    node->showPicture(window(), texture);
     node->picture->setRect(boundingRect());
     node->picture->setFiltering(m_smooth ? QSGTexture::Linear : QSGTexture::Nearest);
     const QSGImageNode::TextureCoordinatesTransformMode turned =
