@@ -304,6 +304,8 @@ void WebCamWindow::captureFrame(const QString &frameExt, const QString &fullPath
     if (m_thread && m_thread->isConnected())
         m_thread->captureFrame(
             {frameExt, fullPath, tumbPath, frameWidth, frameHeight, crop, grayscale, rotate});
+    else
+        emit frameNotSaved();
 }
 
 void WebCamWindow::showSettingsDialog(int show)
