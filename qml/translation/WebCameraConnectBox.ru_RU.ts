@@ -28,4 +28,15 @@
         <translation>Отключить</translation>
     </message>
 </context>
+<context>
+    <name>CameraList</name>
+    <message>
+        <source>Device #%1</source>
+        <translation>Устройство #%1</translation>
+    </message>
+    <message>
+        <source>FireWire Device</source>
+        <translation>Устройство FireWire</translation>
+    </message>
+</context>
 </TS>

@@ -60,4 +60,11 @@
         <translation>Ожидание камеры</translation>
     </message>
 </context>
+<context>
+    <name>TimeLapse</name>
+    <message>
+        <source>Time-lapse photography tool stopped</source>
+        <translation>Цейтраферная съёмка остановлена</translation>
+    </message>
+</context>
 </TS>

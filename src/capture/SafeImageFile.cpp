@@ -88,11 +88,11 @@ SafeImageFile::~SafeImageFile()
         QFile::remove(m_temporary);
 }
 
-bool SafeImageFile::write(const QByteArray &bytes)
+bool SafeImageFile::write(const QByteArray &bytes, Flush flush)
 {
     QFile file(m_temporary);
     const bool opened = file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
-    if (opened && file.write(bytes) == bytes.size() && flushToDisk(file))
+    if (opened && file.write(bytes) == bytes.size() && (flush == Flush::Later || flushToDisk(file)))
         return true;
     const bool known = file.error() != QFileDevice::NoError;
     m_reason = known ? file.errorString() : tr("The disk is full or does not take the data");
@@ -102,9 +102,18 @@ bool SafeImageFile::write(const QByteArray &bytes)
 SafeImageFile::Placed SafeImageFile::placeAs(const QString &path)
 {
     const Placed placed = giveName(m_temporary, path, m_reason);
-    if (placed == Placed::Done)
+    if (placed == Placed::Done) {
         m_temporary.clear();
+        m_placed = path;
+    }
     return placed;
+}
+
+void SafeImageFile::flushPlaced()
+{
+    QFile file(m_placed);
+    if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        flushToDisk(file);
 }
 
 void SafeImageFile::removeLeftovers(const QString &folder)

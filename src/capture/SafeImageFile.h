@@ -26,8 +26,16 @@ public:
     SafeImageFile(const SafeImageFile &) = delete;
     SafeImageFile &operator=(const SafeImageFile &) = delete;
 
-    bool write(const QByteArray &bytes);
+    enum class Flush {
+        Now,
+        /// By flushPlaced(), for what can be made anew and shall not keep anybody waiting.
+        Later,
+    };
+
+    bool write(const QByteArray &bytes, Flush flush = Flush::Now);
     Placed placeAs(const QString &path);
+    /// Brings the placed file to the disk.
+    void flushPlaced();
     /// Why write() or placeAs() failed, for the user.
     QString reason() const
     {
@@ -39,5 +47,6 @@ public:
 
 private:
     QString m_temporary;
+    QString m_placed;
     QString m_reason;
 };

@@ -220,10 +220,11 @@ void FrameSaver::saveThumbnail(const QImage &image, const Paths &paths)
     QString reason;
     const QByteArray bytes = encoded(small, "jpg", thumbnailQuality, reason);
     SafeImageFile file(paths.thumb);
-    const bool written =
-        !bytes.isEmpty() && file.write(bytes) && file.placeAs(paths.thumb) == SafeImageFile::Placed::Done;
+    const bool written = !bytes.isEmpty() && file.write(bytes, SafeImageFile::Flush::Later)
+                         && file.placeAs(paths.thumb) == SafeImageFile::Placed::Done;
     if (written) {
         m_observer.frameSaved(paths.full, paths.thumb);
+        file.flushPlaced();
         return;
     }
     m_observer.thumbnailFailed(bytes.isEmpty() ? reason : file.reason());

@@ -245,6 +245,12 @@ void WebCamWindow::startThread()
     setup.histogram = m_histogramOn;
     m_thread = std::make_shared<WebCamLiveViewThread>(std::move(setup));
     postToDisplay(WebCamEvent::AcceptingOn);
+    // Before the start: a camera that is not there ends the thread at once.
+    connect(m_thread.get(), &QThread::finished, this, [this, thread = m_thread.get()] {
+        // One that was freed already has nothing more to tell.
+        if (m_thread.get() == thread)
+            disconnectsContinued();
+    });
     m_thread->start(QThread::HighestPriority);
 }
 
@@ -254,11 +260,6 @@ void WebCamWindow::connectThread()
     connect(this, &WebCamWindow::availWidthChanged, thread, &WebCamLiveViewThread::setAvailWidth);
     connect(this, &WebCamWindow::availHeightChanged, thread, &WebCamLiveViewThread::setAvailHeight);
     connect(this, &WebCamWindow::powerFactorChanged, thread, &WebCamLiveViewThread::setPowerFactor);
-    connect(thread, &QThread::finished, this, [this, thread] {
-        // One that was freed already has nothing more to tell.
-        if (m_thread.get() == thread)
-            disconnectsContinued();
-    });
     if (!m_global) {
         qDebug("WebCamWindow::init failed to conect to global");
         return;
