@@ -6,6 +6,7 @@ Pane {
     id: cameraTabs
 
     property int current: 0
+    property bool withButton: true
     readonly property int autoCaptureTab: 2
     readonly property bool blocked: WebcamGlobal.zeitRafferRunning
     readonly property int shown: blocked ? autoCaptureTab : current
@@ -40,6 +41,7 @@ Pane {
 
     CapmodesTab {
         width: parent.width
+        withButton: cameraTabs.withButton
         visible: cameraTabs.shown === 0
     }
 

@@ -5,20 +5,16 @@ import Zum 1.0
 Column {
     id: tab
 
+    // Without it the button stands elsewhere.
+    property bool withButton: true
     readonly property int most: 8
     readonly property bool replaces: FramesModel.captureMode === Zum.CaptureModeReplace
 
     spacing: Theme.spacing
 
-    TextButton {
-        objectName: "captureButton"
+    CaptureButton {
         width: parent.width
-        height: Math.max(implicitHeight, Math.round(1.4 * Theme.controlHeight))
-        icon: "svgicons/capture.svg"
-        text: tab.replaces ? qsTr("Replace Frame") : qsTr("Capture Frame")
-        toolTip: qsTr("Capture a frame") + " [Enter]"
-        active: WebcamGlobal.connected && MainWindow.projectLoaded && WebcamGlobal.capturingInprogress < 0
-        onClicked: WebcamGlobal.doCaptureFrame()
+        visible: tab.withButton
     }
 
     FieldRow {

@@ -46,6 +46,7 @@ Column {
 
             parent: captureControlsPane.tabsPlace ? captureControlsPane.tabsPlace : tabsBelow
             width: parent ? parent.width : 0
+            withButton: captureControlsPane.tabsPlace !== null
         }
     }
 

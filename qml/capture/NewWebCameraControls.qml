@@ -47,6 +47,24 @@ CommonCameraControlsPane {
         AutoFocusButton {
             objectName: "autoFocus"
         }
+
+        IconButton {
+            objectName: "drawFrame"
+            icon: "svgicons/crop.svg"
+            toolTip: qsTr("Draw the frame of the film on the live view")
+            active: WebcamGlobal.connected
+            toggled: appWindow.choosingCropArea
+            onClicked: appWindow.choosingCropArea = !appWindow.choosingCropArea
+        }
+
+        IconButton {
+            objectName: "eyedropper"
+            icon: "svgicons/eyedropper.svg"
+            toolTip: qsTr("Show the colour under the pointer")
+            active: WebcamGlobal.connected
+            toggled: WebcamGlobal.eyedropperOn
+            onClicked: WebcamGlobal.eyedropperOn = !WebcamGlobal.eyedropperOn
+        }
     }
 
     TextButton {

@@ -19,7 +19,6 @@ SliderNew {
     active: WebcamGlobal.connected
     value: defaultValue
     wheelWithoutFocus: false
-    toolTip: label
     onMoved: value => slider.set(value)
 
     Connections {

@@ -17,30 +17,58 @@ Column {
     // One step of the keys that zoom.
     readonly property int zoomStep: 5
     property bool unfolded: true
+    // A slider's name stands above it where both have no room beside each other.
+    readonly property bool narrow: width < words.widest + DefFontSizeNormal_x12
 
     function zoomBy(step) {
-        const zoom = list.itemAt(1);
+        const zoom = list.itemAt(1).slider;
         if (WebcamGlobal.connected)
             zoom.set(zoom.value + step);
+    }
+
+    TextMetrics {
+        id: words
+
+        readonly property real widest: Math.ceil(advanceWidth) + 1
+
+        font.pixelSize: DefFontSizeNormal
+        text: sliders.rows.reduce((longest, row) => row.title.length > longest.length ? row.title : longest, "")
     }
 
     Repeater {
         id: list
 
         model: sliders.rows
-        delegate: WebcamSlider {
-            required property var modelData
+        delegate: Column {
+            id: row
 
-            objectName: "webcamSlider" + modelData.id
+            required property var modelData
+            readonly property alias slider: control
+
             width: sliders.width
             visible: sliders.unfolded
-            propId: modelData.id
-            label: modelData.title
-            labelWidth: Math.round(sliders.width * 0.34)
-            minimum: modelData.from
-            maximum: modelData.to
-            defaultValue: modelData.normal
-            step: modelData.step
+
+            TextLabel {
+                width: parent.width
+                visible: sliders.narrow
+                text: row.modelData.title
+                Accessible.ignored: true
+            }
+
+            WebcamSlider {
+                id: control
+
+                objectName: "webcamSlider" + row.modelData.id
+                width: parent.width
+                propId: row.modelData.id
+                label: sliders.narrow ? "" : row.modelData.title
+                toolTip: row.modelData.title
+                labelWidth: sliders.narrow ? 0 : words.widest
+                minimum: row.modelData.from
+                maximum: row.modelData.to
+                defaultValue: row.modelData.normal
+                step: row.modelData.step
+            }
         }
     }
 

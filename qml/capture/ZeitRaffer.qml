@@ -18,9 +18,9 @@ Column {
 
     spacing: Theme.spacing
 
-    FieldRow {
+    Flow {
         width: parent.width
-        text: qsTr("Times per")
+        spacing: Theme.spacing
 
         NumberInput4 {
             objectName: "timesPer"
@@ -33,9 +33,14 @@ Column {
             onEdited: times => TimeLapse.times = times
         }
 
+        TextLabel {
+            height: Theme.controlHeight
+            text: qsTr("Times per")
+        }
+
         ChoiceRow {
             objectName: "timeUnit"
-            width: parent.width
+            width: Math.min(implicitWidth, parent.width)
             label: qsTr("Times per")
             toolTip: qsTr("At most 30 a minute, 120 an hour, 720 a day")
             active: !zeitRaffer.running
