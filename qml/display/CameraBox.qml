@@ -40,7 +40,7 @@ Item {
     FlipFlopRunner {
         id: flipFlop
 
-        allowed: cameraBox.framesRun
+        allowed: cameraBox.running && MainWindow.projectLoaded
     }
 
     Item {

@@ -37,6 +37,15 @@ Item {
         WebcamGlobal.coordSystemScale = Math.fround(Math.round(scale * 10000) / 10000);
     }
 
+    // Where the film's frame lies in the picture. Not worth a project that wants to be saved, so it is only written
+    // together with something that is.
+    function placeFrame() {
+        if (!MainWindow.projectLoaded || !WebcamGlobal.projectChanged)
+            return;
+        WebcamGlobal.cropAreaX = Math.round((WebcamGlobal.coordSystemWidth - WebcamGlobal.cropAreaW) / 2);
+        WebcamGlobal.cropAreaY = Math.round((WebcamGlobal.coordSystemHeight - WebcamGlobal.cropAreaH) / 2);
+    }
+
     function letGo() {
         largest = Qt.size(0, 0);
         if (WebcamGlobal.connected)
@@ -77,6 +86,22 @@ Item {
 
     Connections {
         target: WebcamGlobal
+
+        function onCropAreaWChanged() {
+            Qt.callLater(geometry.placeFrame);
+        }
+
+        function onCropAreaHChanged() {
+            Qt.callLater(geometry.placeFrame);
+        }
+
+        function onCoordSystemWidthChanged() {
+            Qt.callLater(geometry.placeFrame);
+        }
+
+        function onCoordSystemHeightChanged() {
+            Qt.callLater(geometry.placeFrame);
+        }
 
         function onResizeChanged() {
             geometry.apply();

@@ -12,10 +12,17 @@ CRamPreview {
     eyedropperOn: WebcamGlobal.eyedropperOn
     sourceConnected: WebcamGlobal.connected
     Accessible.role: Accessible.Graphic
+    // The colour stays when the pointer has left; a click keeps it and puts the eyedropper away.
     onSetEyedropper: (mouse, colour) => {
-        WebcamGlobal.eyedropperVisible = mouse.x >= 0 && mouse.y >= 0;
+        const over = mouse.x >= 0 && mouse.y >= 0;
+        WebcamGlobal.eyedropperVisible = over && WebcamGlobal.eyedropperOn;
         WebcamGlobal.eyedropperPos = mouse;
-        WebcamGlobal.eyedropperColor = colour;
+        if (over)
+            WebcamGlobal.eyedropperColor = colour;
+    }
+    onMousePressed: {
+        WebcamGlobal.eyedropperOn = false;
+        WebcamGlobal.eyedropperVisible = false;
     }
 
     Connections {

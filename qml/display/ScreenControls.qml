@@ -115,21 +115,8 @@ Rectangle {
                 }
             }
 
-            ToolDrop {
-                id: filters
-
-                icon: "svgicons/filters.svg"
-                title: qsTr("Filters")
-                toolTip: qsTr("Filters of the pictures")
-                toggled: WebcamGlobal.postProcessing === Zum.NonRealtimeProcessing
-
-                FiltersTool {
-                    scene: screenControls.scene
-                    onLeaving: filters.close()
-                }
-            }
-
             ScreenSwitches {
+                scene: screenControls.scene
                 timing: screenControls.timing
             }
         }

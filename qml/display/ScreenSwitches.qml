@@ -1,12 +1,33 @@
 import QtQuick
+import Zum 1.0
 
 // The tools of the picture that need one click.
 Column {
     id: switches
 
+    required property var scene
     property bool timing: false
+    readonly property bool filtering: WebcamGlobal.postProcessing === Zum.NonRealtimeProcessing
 
     spacing: DefFontSizeNano
+
+    IconButton {
+        objectName: "filtersButton"
+        icon: "svgicons/filters.svg"
+        toggled: WebcamGlobal.hasPostProcessSettings
+        toolTip: qsTr("Filters of the picture")
+        onClicked: switches.scene.postProcessFiltersBox()
+    }
+
+    // Before and after.
+    IconButton {
+        icon: switches.filtering ? "svgicons/show.svg" : "svgicons/hide.svg"
+        toolTip: switches.filtering ? qsTr("Show pictures as they are") : qsTr("Show pictures with the filters")
+        role: Accessible.CheckBox
+        active: WebcamGlobal.hasPostProcessSettings
+        toggled: switches.filtering
+        onClicked: WebcamGlobal.postProcessing = switches.filtering ? Zum.NoProcessing : Zum.NonRealtimeProcessing
+    }
 
     IconButton {
         visible: switches.timing

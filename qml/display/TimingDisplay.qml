@@ -57,11 +57,17 @@ Item {
     }
 
     Loader {
-        id: histogram
-
         anchors.right: parent.right
         anchors.top: parent.top
         anchors.margins: Theme.spacing
+        width: Math.min(DefFontSizeNormal_x22, parent.width / 2)
         active: WebcamGlobal.ramHistogramOn && !timingDisplay.empty
+        sourceComponent: HistogramPane {
+            running: timingDisplay.running && !FramesModel.playing
+            histogramDataY: Array.from(preview.preview.histogramDataY)
+            histogramDataR: Array.from(preview.preview.histogramDataR)
+            histogramDataG: Array.from(preview.preview.histogramDataG)
+            histogramDataB: Array.from(preview.preview.histogramDataB)
+        }
     }
 }

@@ -64,7 +64,13 @@ Rectangle {
         anchors.leftMargin: DefFontSizeMicro
         anchors.rightMargin: 2 * DefFontSizeMicro
         visible: controlsPanesBox.captures
-        height: visible && children.length > 0 ? children[0].height + DefFontSizeMicro : 0
+        height: visible ? childrenRect.height + DefFontSizeMicro : 0
+
+        CaptureButton {
+            width: parent.width
+            height: visible ? implicitHeight : 0
+            visible: MainWindow.projectLoaded && !controlsPanesBox.roomy
+        }
     }
 
     Scrollbar {

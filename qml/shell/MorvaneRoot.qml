@@ -114,19 +114,9 @@ SceneDevices {
         anchors.bottomMargin: (timelineBox.scale - 1) * timelineBox.height
         visible: tabRules.screenShown
         scene: appWindow
-        rules: displayRules
-        timingSize: ramPreviewSize
         tabsShown: tabRules.screenControlsShown
         onRoomWidthChanged: appWindow.rescale()
         onRoomHeightChanged: appWindow.rescale()
-    }
-
-    DisplayRules {
-        id: displayRules
-    }
-
-    TimingSize {
-        id: ramPreviewSize
     }
 
     ScreenControls {
@@ -138,7 +128,7 @@ SceneDevices {
         anchors.bottom: screenArea.bottom
         shown: tabRules.screenControlsShown
         scene: appWindow
-        timingSize: ramPreviewSize
+        timingSize: screenArea.timingSize
         capturePixelZoom: screenArea.capturePixelZoom
         timingPixelZoom: screenArea.timingPixelZoom
     }

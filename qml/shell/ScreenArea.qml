@@ -6,9 +6,9 @@ Item {
     id: screenArea
 
     required property var scene
-    required property var rules
-    required property var timingSize
     property bool tabsShown: true
+    readonly property alias rules: displayRules
+    readonly property alias timingSize: ramPreviewSize
     readonly property bool onCapture: WebcamGlobal.currentActiveTab === Zum.CaptureTab
     readonly property bool onTiming: WebcamGlobal.currentActiveTab === Zum.TimingTab
     // The part of the Capture tab's view that is left for its picture.
@@ -20,6 +20,16 @@ Item {
                                             ? 1 / timing.item.ramView.shownScale : 0
 
     clip: true
+
+    DisplayRules {
+        id: displayRules
+    }
+
+    PostProcessState {}
+
+    TimingSize {
+        id: ramPreviewSize
+    }
 
     Item {
         id: displayContainer
@@ -36,7 +46,7 @@ Item {
             wantedStill: MainWindow.projectLoaded
             sourceComponent: Display {
                 scene: screenArea.scene
-                rules: screenArea.rules
+                rules: displayRules
                 running: displayContainer.visible
                 tabsShown: screenArea.tabsShown
             }
@@ -64,7 +74,7 @@ Item {
             wantedStill: MainWindow.projectLoaded
             sourceComponent: TimingDisplay {
                 running: ramPreviewContainer.visible
-                size: screenArea.timingSize
+                size: ramPreviewSize
             }
         }
 

@@ -32,4 +32,35 @@
         <translation>Красный</translation>
     </message>
 </context>
+<context>
+    <name>HistogramPane</name>
+    <message>
+        <source>Blue</source>
+        <translation>Синий</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Зелёный</translation>
+    </message>
+    <message>
+        <source>Height of the bars</source>
+        <translation>Высота столбцов</translation>
+    </message>
+    <message>
+        <source>Histogram</source>
+        <translation>Гистограмма</translation>
+    </message>
+    <message>
+        <source>Luminance</source>
+        <translation>Яркость</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Красный</translation>
+    </message>
+    <message>
+        <source>Show the channel: %1</source>
+        <translation>Показывать канал: %1</translation>
+    </message>
+</context>
 </TS>

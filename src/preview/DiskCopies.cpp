@@ -52,9 +52,15 @@ QString temporaryName(const QString &path)
 bool writeImage(const QString &path, const QImage &image)
 {
     const QString temporary = temporaryName(path);
-    QImageWriter writer(temporary, "jpg");
+    QFile file(temporary);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    QImageWriter writer(&file, "jpg");
     writer.setQuality(jpegQuality);
-    if (writer.write(image)) {
+    // A full disk shows at the flush only.
+    const bool written = writer.write(image) && file.flush();
+    file.close();
+    if (written) {
         // A rename does not replace a file on every system.
         QFile::remove(path);
         if (QFile::rename(temporary, path))

@@ -25,6 +25,13 @@ public:
             image = m_image;
         return lock.owns_lock();
     }
+    /// Runs something that no one may take or put a picture meanwhile.
+    template <typename Call>
+    void whileLocked(Call call)
+    {
+        const std::lock_guard lock(m_mutex);
+        call();
+    }
 
 private:
     std::timed_mutex m_mutex;

@@ -101,6 +101,8 @@ QSGNode *RamPreview::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
     node->setFiltering(smooth() ? QSGTexture::Linear : QSGTexture::Nearest);
     node->setTextureCoordinatesTransform(mirrored() ? QSGImageNode::MirrorHorizontally
                                                     : QSGImageNode::NoTransform);
+    // Another transform alone does not make the renderer take the node's geometry anew.
+    node->markDirty(QSGNode::DirtyGeometry);
     node->setRect(boundingRect());
     return node;
 }

@@ -16,7 +16,8 @@ template <typename... Values>
 void RamPreviewWorker::tell(const char *slot, Values... values)
 {
     if (m_owner)
-        QMetaObject::invokeMethod(m_owner, slot, Qt::QueuedConnection, Q_ARG(Values, values)...);
+        QMetaObject::invokeMethod(m_owner, slot, Qt::QueuedConnection,
+                                  QArgument<Values>(QMetaType::fromType<Values>().name(), values)...);
 }
 
 PictureStore::Reports RamPreviewWorker::reports()

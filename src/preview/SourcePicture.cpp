@@ -6,6 +6,17 @@
 
 namespace {
 
+/// What the contents tell, for formats that can be told from them; the suffix for the rest. Raw photographs
+/// would be taken for TIFF files.
+QByteArray formatOf(QFile &file)
+{
+    static const QList<QByteArray> toldByContents{"jpg", "jpeg", "png", "webp", "bmp", "gif", "tif", "tiff"};
+    const QByteArray suffix = QFileInfo(file.fileName()).suffix().toLower().toLatin1();
+    const QByteArray contents =
+        toldByContents.contains(suffix) ? QImageReader::imageFormat(&file) : QByteArray();
+    return contents.isEmpty() ? suffix : contents;
+}
+
 /// The decoder's own sizes are so many eighths of the whole, rounded up.
 constexpr int decoderSteps = 8;
 
@@ -24,7 +35,7 @@ SourcePicture::SourcePicture(const QString &path) : m_file(path)
     if (!m_file.open(QIODevice::ReadOnly))
         return;
     m_reader.setDevice(&m_file);
-    m_reader.setFormat(QFileInfo(path).suffix().toLower().toLatin1());
+    m_reader.setFormat(formatOf(m_file));
 }
 
 bool SourcePicture::isJpeg() const

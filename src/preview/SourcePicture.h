@@ -12,7 +12,7 @@
 class SourcePicture
 {
 public:
-    /// The suffix of the path is a hint at the format; the contents decide.
+    /// The suffix of the path is a hint at the format; a picture with that of another format is read too.
     explicit SourcePicture(const QString &path);
 
     QString path() const

@@ -16,7 +16,8 @@ QImage plain(const QColor &color)
 
 QColor DisplayWindow::capturedColor(int row)
 {
-    const QList<QColor> colors{QColor(200, 60, 60), QColor(60, 160, 60), QColor(60, 90, 200), QColor(190, 160, 50)};
+    const QList<QColor> colors{QColor(200, 60, 60), QColor(60, 160, 60), QColor(60, 90, 200),
+                               QColor(190, 160, 50)};
     return colors.at(row % colors.size());
 }
 
@@ -34,10 +35,11 @@ ShellWindow::Options DisplayWindow::options(QSize size)
 
 DisplayWindow::DisplayWindow(int rows, const ShellWindow::Options &options) : ShellWindow(options)
 {
-    QObject::connect(qmlEngine(&root()), &QQmlEngine::warnings, &window(), [this](const QList<QQmlError> &errors) {
-        for (const QQmlError &error : errors)
-            m_engineWarnings.append(error.toString());
-    });
+    QObject::connect(qmlEngine(&root()), &QQmlEngine::warnings, &window(),
+                     [this](const QList<QQmlError> &errors) {
+                         for (const QQmlError &error : errors)
+                             m_engineWarnings.append(error.toString());
+                     });
     if (!createProject())
         qFatal("No project");
     global().setScaleDelay(std::chrono::milliseconds(1));
@@ -88,9 +90,13 @@ QVariant DisplayWindow::layers(const QString &expression) const
 bool DisplayWindow::waitForPictures()
 {
     return QTest::qWaitFor([this] {
-        return layers(QStringLiteral("bigCapturedPicBox.preview.sourceImageWidth")).toInt() > 1
-               && layers(QStringLiteral("Math.abs(bigCapturedPicBox.preview.width - bigCapturedPicBox.width) < 2")).toBool();
-    }) && settle() && settle();
+               return layers(QStringLiteral("bigCapturedPicBox.preview.sourceImageWidth")).toInt() > 1
+                      && layers(
+                             QStringLiteral(
+                                 "Math.abs(bigCapturedPicBox.preview.width - bigCapturedPicBox.width) < 2"))
+                             .toBool();
+           })
+           && settle() && settle();
 }
 
 QImage DisplayWindow::shot()

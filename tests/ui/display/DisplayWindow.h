@@ -5,8 +5,8 @@
 #include <QColor>
 #include <QImage>
 
-/// The program with a film of small real pictures: captured frames of 320x180 in one colour each, PNG and JPEG by
-/// turns, and references of the same size for the first rows.
+/// The program with a film of small real pictures: captured frames of 320x180 in one colour each, PNG and
+/// JPEG by turns, and references of the same size for the first rows.
 class DisplayWindow : public ShellWindow
 {
 public:

@@ -3,8 +3,8 @@
 #include <QTest>
 #include <QWheelEvent>
 
-/// The box that the view lies in, and the helper lines over it: zooming and moving with the mouse, and lines that
-/// stay thin.
+/// The box that the view lies in, and the helper lines over it: zooming and moving with the mouse, and lines
+/// that stay thin.
 class TestDisplayView : public QObject
 {
     Q_OBJECT
@@ -52,16 +52,19 @@ private:
     }
     QPointF pictureMiddle() const
     {
-        return m_film->cameraBox()->mapToScene({m_film->cameraBox()->width() / 2, m_film->cameraBox()->height() / 2});
+        return m_film->cameraBox()->mapToScene(
+            {m_film->cameraBox()->width() / 2, m_film->cameraBox()->height() / 2});
     }
     QPoint viewMiddle() const
     {
-        return m_film->flicker()->mapToScene({m_film->flicker()->width() / 2, m_film->flicker()->height() / 2}).toPoint();
+        return m_film->flicker()
+            ->mapToScene({m_film->flicker()->width() / 2, m_film->flicker()->height() / 2})
+            .toPoint();
     }
     void wheel(QPoint at, int steps)
     {
-        QWheelEvent event(at, m_film->window().mapToGlobal(at), {}, {0, 120 * steps}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
+        QWheelEvent event(at, m_film->window().mapToGlobal(at), {}, {0, 120 * steps}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(&m_film->window(), &event);
     }
     void drag(Qt::MouseButton button, QPoint from, QPoint by)
@@ -91,8 +94,8 @@ void TestDisplayView::init()
     global().setEyedropperOn(false);
     global().setCropAreaW(DisplayWindow::frameWidth);
     global().setCropAreaH(DisplayWindow::frameHeight);
-    for (const char *line : {"marginsOn", "gridOn", "crossOn", "wideCross", "safeAreaOn", "cropAreaOn",
-                             "ruleOfThirdsGridOn"})
+    for (const char *line :
+         {"marginsOn", "gridOn", "crossOn", "wideCross", "safeAreaOn", "cropAreaOn", "ruleOfThirdsGridOn"})
         global().setProperty(line, false);
     global().setTechInfoOn(true);
     QVERIFY(m_film->waitForPictures());
@@ -127,7 +130,8 @@ void TestDisplayView::wheelZoomsAroundThePointer()
     wheel(at, 3);
     QCOMPARE(global().camScaleFactor(), 1.2 * 1.2 * 1.2);
     const QPointF after = m_film->cameraBox()->mapFromScene(at);
-    QVERIFY2((after - under).manhattanLength() < 2, qPrintable(QStringLiteral("%1 %2").arg(after.x()).arg(under.x())));
+    QVERIFY2((after - under).manhattanLength() < 2,
+             qPrintable(QStringLiteral("%1 %2").arg(after.x()).arg(under.x())));
 }
 
 void TestDisplayView::wheelRestsAtTheFittingSize()
@@ -187,7 +191,8 @@ void TestDisplayView::leftButtonMovesTheZoomedView()
     drag(Qt::LeftButton, viewMiddle(), {-80, 40});
     const QPointF moved = pictureMiddle() - before;
     // Small movements are a click.
-    QVERIFY2(moved.x() < -50 && moved.y() > 20, qPrintable(QStringLiteral("%1 %2").arg(moved.x()).arg(moved.y())));
+    QVERIFY2(moved.x() < -50 && moved.y() > 20,
+             qPrintable(QStringLiteral("%1 %2").arg(moved.x()).arg(moved.y())));
 }
 
 void TestDisplayView::eyedropperKeepsTheLeftButton()
@@ -214,7 +219,8 @@ void TestDisplayView::zoomOfTheSharedStateIsFollowed()
 {
     const qreal width = m_film->cameraBox()->width();
     global().setCamScaleFactor(3);
-    const qreal shown = m_film->cameraBox()->mapToScene({width, 0}).x() - m_film->cameraBox()->mapToScene({0, 0}).x();
+    const qreal shown =
+        m_film->cameraBox()->mapToScene({width, 0}).x() - m_film->cameraBox()->mapToScene({0, 0}).x();
     QCOMPARE(shown, 3 * width);
     QVERIFY((pictureMiddle() - viewMiddle()).manhattanLength() < 3);
 }
@@ -262,7 +268,8 @@ void TestDisplayView::gridCentresOnALine()
     const QImage shot = m_film->shot();
     const QPoint middle = pictureMiddle().toPoint();
     const QList<int> found = greenColumns(shot, middle.y() + 7);
-    QVERIFY2(found.contains(middle.x()) || found.contains(middle.x() - 1), qPrintable(QString::number(found.size())));
+    QVERIFY2(found.contains(middle.x()) || found.contains(middle.x() - 1),
+             qPrintable(QString::number(found.size())));
 }
 
 void TestDisplayView::gridStepsFollowTheScale()
@@ -275,7 +282,8 @@ void TestDisplayView::gridStepsFollowTheScale()
     QVERIFY(found.size() >= 7);
     const qreal wanted = 40 * global().coordSystemScale();
     for (int i = 1; i < found.size(); ++i)
-        QVERIFY2(std::abs(found.at(i) - found.at(i - 1) - wanted) <= 1.5, qPrintable(QString::number(found.at(i))));
+        QVERIFY2(std::abs(found.at(i) - found.at(i - 1) - wanted) <= 1.5,
+                 qPrintable(QString::number(found.at(i))));
 }
 
 void TestDisplayView::linesStayThin_data()
@@ -354,11 +362,13 @@ void TestDisplayView::safeAreasLieInsideOfTheFrame()
     const QImage shot = m_film->shot();
     const qreal left = m_film->cameraBox()->mapToScene({0, 0}).x();
     const qreal width = m_film->cameraBox()->width();
-    const QList<int> found = greenColumns(shot, qRound(pictureMiddle().y() + m_film->cameraBox()->height() / 5));
+    const QList<int> found =
+        greenColumns(shot, qRound(pictureMiddle().y() + m_film->cameraBox()->height() / 5));
     QCOMPARE(found.size(), 4);
     const QList<qreal> shares{0.035, 0.05, 0.95, 0.965};
     for (int i = 0; i < 4; ++i)
-        QVERIFY2(std::abs(found.at(i) - left - shares.at(i) * width) <= 1.6, qPrintable(QString::number(found.at(i))));
+        QVERIFY2(std::abs(found.at(i) - left - shares.at(i) * width) <= 1.6,
+                 qPrintable(QString::number(found.at(i))));
 }
 
 void TestDisplayView::safeAreasHaveTicks()
