@@ -93,7 +93,10 @@ WebCamera {
     }
     onProgressActionChanged: MainWindow.progressAction = cam.progressAction
     onProgressCurrentChanged: MainWindow.progressCurrent = cam.progressCurrent
-    onProgressTotalChanged: MainWindow.progressTotal = cam.progressTotal
+    onProgressTotalChanged: {
+        appWindow.savingShot = cam.progressTotal > 0;
+        MainWindow.progressTotal = cam.progressTotal;
+    }
     onConnectedChanged: {
         if (cam.connected)
             hasConnected();

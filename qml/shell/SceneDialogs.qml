@@ -5,6 +5,9 @@ import Zum 1.0
 FocusScope {
     id: sceneDialogs
 
+    // What progresses is a shot that the capturing device saves.
+    property bool savingShot: false
+
     function showDialog(fileName) {
         MainWindow.qmlDialogUrl = fileName;
     }
@@ -65,7 +68,7 @@ FocusScope {
     function progressBox() {
         if (MainWindow.progressTotal === 0)
             slowShot.stop();
-        if (MainWindow.progressTotal > 0 && WebcamGlobal.capturingInprogress >= 0)
+        if (MainWindow.progressTotal > 0 && savingShot)
             slowShot.start();
         else if (MainWindow.progressTotal > 0)
             showDialog("LoadDialog.qml");
