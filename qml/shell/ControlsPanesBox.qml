@@ -22,7 +22,7 @@ Rectangle {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
-        anchors.bottom: bottomPlace.top
+        anchors.bottom: bottom.top
         anchors.margins: DefFontSizeMicro
         contentHeight: panes.height
         boundsBehavior: Flickable.StopAtBounds
@@ -56,7 +56,7 @@ Rectangle {
     }
 
     Item {
-        id: bottomPlace
+        id: bottom
 
         anchors.left: parent.left
         anchors.right: parent.right
@@ -64,12 +64,17 @@ Rectangle {
         anchors.leftMargin: DefFontSizeMicro
         anchors.rightMargin: 2 * DefFontSizeMicro
         visible: controlsPanesBox.captures
-        height: visible ? childrenRect.height + DefFontSizeMicro : 0
+        height: visible ? bottomPlace.implicitHeight + DefFontSizeMicro : 0
 
-        CaptureButton {
+        Column {
+            id: bottomPlace
+
             width: parent.width
-            height: visible ? implicitHeight : 0
-            visible: MainWindow.projectLoaded && !controlsPanesBox.roomy
+
+            CaptureButton {
+                width: parent.width
+                visible: !controlsPanesBox.roomy
+            }
         }
     }
 

@@ -40,9 +40,6 @@ SceneProject {
     function cameraGoes() {
         TimeLapse.cameraLost();
         CameraList.cameraLost();
-        tellOfCamera(Zum.Warning, WebcamGlobal.capturingInprogress !== -1
-            ? qsTr("The camera is gone, and the last shot with it. Everything shot before is in the project. Connect the camera again to go on")
-            : qsTr("The camera is gone. Everything shot so far is in the project. Connect the camera again to go on"));
     }
 
     // Fits a picture that has just come, or come in another size, without the wait that a window being drawn

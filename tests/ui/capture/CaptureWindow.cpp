@@ -1,5 +1,7 @@
 #include "CaptureWindow.h"
 
+#include "project/ProjectReader.h"
+
 #include <QTest>
 
 ShellWindow::Options CaptureWindow::options(int kind)
@@ -32,7 +34,8 @@ bool CaptureWindow::shoot()
 {
     const int before = framesNow();
     press(Qt::Key_Return);
-    return QTest::qWaitFor([this, before] { return framesNow() > before && global().capturingInprogress() == -1; });
+    return QTest::qWaitFor(
+        [this, before] { return framesNow() > before && global().capturingInprogress() == -1; });
 }
 
 QQuickItem *CaptureWindow::control(const QString &objectName) const
@@ -48,6 +51,18 @@ QStringList CaptureWindow::capturedFiles()
 QString CaptureWindow::pictureOf(int row)
 {
     return capturedFolder() + frames().get(row, false).value(QStringLiteral("capFull")).toString();
+}
+
+QByteArray CaptureWindow::projectFileText()
+{
+    QFile file(window().projPath());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+int CaptureWindow::framesInProjectFile()
+{
+    const ProjectReadResult read = ProjectReader::readFile(window().projPath());
+    return read.status == ProjectReadResult::Status::Ok ? int(read.document.frames.size()) : -1;
 }
 
 int CaptureWindow::told(const QString &text) const

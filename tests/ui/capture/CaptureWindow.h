@@ -36,6 +36,9 @@ public:
     }
     /// The picture of that row, as it lies on the disk.
     QString pictureOf(int row);
+    QByteArray projectFileText();
+    /// The rows of the project file as it lies on the disk; -1 when it cannot be read.
+    int framesInProjectFile();
     /// How many messages contain that text.
     int told(const QString &text) const;
 };
