@@ -18,7 +18,8 @@ Item {
 
     function side(at, shown, real) {
         const half = Math.abs(at - shown / 2) * real / Math.max(1, shown);
-        return Math.max(smallest, Math.floor(Math.min(real, 2 * half) / smallest) * smallest);
+        const most = Math.floor(real / smallest) * smallest;
+        return Math.max(smallest, Math.min(most, Math.round(2 * half / smallest) * smallest));
     }
 
     function take() {

@@ -38,6 +38,7 @@ CommonCameraControlsPane {
         TextButton {
             objectName: "cameraSettings"
             visible: Qt.platform.os === "windows"
+            width: Math.min(implicitWidth, parent.width)
             text: qsTr("Camera Settings")
             active: WebcamGlobal.connected
             toolTip: qsTr("The settings dialog of the camera's driver")
@@ -46,6 +47,7 @@ CommonCameraControlsPane {
 
         AutoFocusButton {
             objectName: "autoFocus"
+            width: Math.min(implicitWidth, parent.width)
         }
 
         IconButton {

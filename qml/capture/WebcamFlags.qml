@@ -10,6 +10,7 @@ Flow {
 
     CheckButton {
         objectName: "rotate"
+        width: Math.min(implicitWidth, flags.width)
         text: qsTr("Rotate 180") + "°"
         toolTip: qsTr("Turn the live view and the captured frames upside down")
         active: WebcamGlobal.connected
@@ -19,6 +20,7 @@ Flow {
 
     CheckButton {
         objectName: "grayscale"
+        width: Math.min(implicitWidth, flags.width)
         text: qsTr("B/W")
         toolTip: qsTr("Live view and captured frames without colours")
         active: WebcamGlobal.connected
@@ -28,6 +30,7 @@ Flow {
 
     CheckButton {
         objectName: "smoothRender"
+        width: Math.min(implicitWidth, flags.width)
         text: qsTr("Anti-Alias")
         toolTip: qsTr("Smooth live view; takes more of the processor")
         active: WebcamGlobal.connected
@@ -37,6 +40,7 @@ Flow {
 
     CheckButton {
         objectName: "crop"
+        width: Math.min(implicitWidth, flags.width)
         text: qsTr("Save Cropped")
         toolTip: qsTr("Crop captured image to specified frame size") + " " + flags.frameSize
         active: WebcamGlobal.connected
