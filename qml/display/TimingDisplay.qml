@@ -46,14 +46,13 @@ Item {
         text: qsTr("Frames play here once the timeline has some.")
     }
 
-    TextLabel {
+    BusySign {
         anchors.left: parent.left
         anchors.bottom: parent.bottom
         anchors.margins: Theme.spacing
-        visible: WebcamGlobal.ramPreviewCaching && !FramesModel.playing
-        text: qsTr("Reading pictures…")
-        small: true
-        dim: true
+        width: DefFontSizeNormal_x2
+        height: width
+        running: WebcamGlobal.ramPreviewCaching && !FramesModel.playing && timingDisplay.running
     }
 
     Loader {

@@ -10,7 +10,7 @@ SceneDevices {
     readonly property alias robotMessgModel: messages.robotMessgModel
     readonly property alias dialog: dialogLayer
     readonly property alias popup: popupMessage
-    readonly property alias adding: repainting.adding
+    readonly property int adding: repainting.width
 
     width: MainWindow.windowSize.width
     height: MainWindow.windowSize.height
@@ -165,7 +165,7 @@ SceneDevices {
         scene: appWindow
     }
 
-    TimelineBox {
+    Timeline {
         id: timelineBox
 
         anchors.horizontalCenter: parent.horizontalCenter

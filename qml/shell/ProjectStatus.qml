@@ -24,14 +24,14 @@ Item {
         spacing: DefFontSizeMicro
 
         Repeater {
-            model: status.facts
+            // A number, so that a changed fact makes no labels anew.
+            model: status.facts.length
             delegate: TextLabel {
-                required property string modelData
                 required property int index
 
                 width: index === 0 ? Math.min(implicitWidth, status.width) : implicitWidth
                 visible: index === 0 || x + implicitWidth <= status.width
-                text: (index > 0 ? "\u00b7 " : "") + modelData
+                text: (index > 0 ? "\u00b7 " : "") + (status.facts[index] ?? "")
                 dim: index > 0 || !MainWindow.projectLoaded
             }
         }

@@ -4,8 +4,6 @@ import QtQuick
 Rectangle {
     id: repainting
 
-    readonly property int adding: width
-
     function start() {
         steps.restart();
     }

@@ -8,14 +8,6 @@
         <translation>Добавлять</translation>
     </message>
     <message>
-        <source>Capture Frame</source>
-        <translation>Снять кадр</translation>
-    </message>
-    <message>
-        <source>Capture a frame</source>
-        <translation>Снять кадр</translation>
-    </message>
-    <message>
         <source>Frames per shot</source>
         <translation>Кадров за снимок</translation>
     </message>
@@ -28,16 +20,27 @@
         <translation>Поставить снимок после последнего кадра или вместо текущего</translation>
     </message>
     <message>
-        <source>Replace Frame</source>
-        <translation>Заменить кадр</translation>
-    </message>
-    <message>
         <source>Replace</source>
         <translation>Заменять</translation>
     </message>
     <message>
         <source>Shots taken</source>
         <translation>Сделано снимков</translation>
+    </message>
+</context>
+<context>
+    <name>CaptureButton</name>
+    <message>
+        <source>Capture Frame</source>
+        <translation>Снять кадр</translation>
+    </message>
+    <message>
+        <source>Capture a frame</source>
+        <translation>Снять кадр</translation>
+    </message>
+    <message>
+        <source>Replace Frame</source>
+        <translation>Заменить кадр</translation>
     </message>
 </context>
 </TS>

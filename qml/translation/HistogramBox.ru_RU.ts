@@ -4,32 +4,12 @@
 <context>
     <name>HistogramBox</name>
     <message>
-        <source>Blue</source>
-        <translation>Синий</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Яркость</translation>
-    </message>
-    <message>
-        <source>Green</source>
-        <translation>Зелёный</translation>
-    </message>
-    <message>
-        <source>Histogram</source>
-        <translation>Гистограмма</translation>
-    </message>
-    <message>
         <source>Live</source>
         <translation>Живая</translation>
     </message>
     <message>
         <source>Measure the live view, once a second</source>
         <translation>Измерять живое изображение раз в секунду</translation>
-    </message>
-    <message>
-        <source>Red</source>
-        <translation>Красный</translation>
     </message>
 </context>
 <context>

@@ -35,12 +35,20 @@
         <translation>Настройки камеры</translation>
     </message>
     <message>
+        <source>Draw the frame of the film on the live view</source>
+        <translation>Нарисовать кадр фильма на живом изображении</translation>
+    </message>
+    <message>
         <source>Resolution</source>
         <translation>Разрешение</translation>
     </message>
     <message>
         <source>Show or hide the sliders of the camera</source>
         <translation>Показать или скрыть ползунки камеры</translation>
+    </message>
+    <message>
+        <source>Show the colour under the pointer</source>
+        <translation>Показывать цвет под указателем</translation>
     </message>
     <message>
         <source>Size of the camera&apos;s picture</source>

@@ -4,10 +4,6 @@
 <context>
     <name>SimpleDisplayDisconnector</name>
     <message>
-        <source>Camera</source>
-        <translation>Камера</translation>
-    </message>
-    <message>
         <source>Disconnect Camera</source>
         <translation>Отключить камеру</translation>
     </message>

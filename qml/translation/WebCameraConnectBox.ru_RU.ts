@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU">
 <context>
+    <name>CameraList</name>
+    <message>
+        <source>Device #%1</source>
+        <translation>Устройство #%1</translation>
+    </message>
+    <message>
+        <source>FireWire Device</source>
+        <translation>Устройство FireWire</translation>
+    </message>
+</context>
+<context>
     <name>WebCameraConnectBox</name>
     <message>
         <source>Available devices</source>
@@ -26,17 +37,6 @@
     <message>
         <source>Disconnect</source>
         <translation>Отключить</translation>
-    </message>
-</context>
-<context>
-    <name>CameraList</name>
-    <message>
-        <source>Device #%1</source>
-        <translation>Устройство #%1</translation>
-    </message>
-    <message>
-        <source>FireWire Device</source>
-        <translation>Устройство FireWire</translation>
     </message>
 </context>
 </TS>

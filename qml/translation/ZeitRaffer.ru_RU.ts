@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU">
 <context>
+    <name>TimeLapse</name>
+    <message>
+        <source>Time-lapse photography tool stopped</source>
+        <translation>Цейтраферная съёмка остановлена</translation>
+    </message>
+</context>
+<context>
     <name>ZeitRaffer</name>
     <message>
         <source>A frame every %1 min.</source>
@@ -58,13 +65,6 @@
     <message>
         <source>Waiting for the camera</source>
         <translation>Ожидание камеры</translation>
-    </message>
-</context>
-<context>
-    <name>TimeLapse</name>
-    <message>
-        <source>Time-lapse photography tool stopped</source>
-        <translation>Цейтраферная съёмка остановлена</translation>
     </message>
 </context>
 </TS>

@@ -11,6 +11,8 @@
 #include "preview/RamPreview.h"
 #include "shared/Zum.h"
 #include "timeline/Progress.h"
+#include "timeline/RowBand.h"
+#include "timeline/TimelineIndicator.h"
 
 #include <qqml.h>
 #include <QPainterPath>
@@ -43,6 +45,8 @@ void registerTypes()
     add<ASlider>("Aslider");
     add<QNumImput>("QNumImput");
     add<QChromaKey>("QChromaKey");
+    add<RowBand>("RowBand");
+    add<TimelineIndicator>("TimelineIndicator");
     add<OsSpecific>("OsSpecific");
 }
 

@@ -1,12 +1,22 @@
 #include "capture/LivePicture.h"
 
 #include <chrono>
+#include <thread>
 
 namespace {
 
-std::unique_lock<std::timed_mutex> tryLock(std::timed_mutex &mutex)
+// By asking again: the other side holds the lock for a moment only, and a mutex with a time limit of its own
+// is one that the thread sanitizer cannot follow.
+std::unique_lock<std::mutex> tryLock(std::mutex &mutex)
 {
-    return {mutex, std::chrono::milliseconds(LivePicture::lockTimeoutMs)};
+    std::unique_lock lock(mutex, std::try_to_lock);
+    const auto limit =
+        std::chrono::steady_clock::now() + std::chrono::milliseconds(LivePicture::lockTimeoutMs);
+    while (!lock.owns_lock() && std::chrono::steady_clock::now() < limit) {
+        std::this_thread::sleep_for(std::chrono::microseconds(500));
+        lock.try_lock();
+    }
+    return lock;
 }
 
 } // namespace
@@ -63,7 +73,7 @@ void LivePicture::clear()
     m_announced = false;
 }
 
-std::unique_lock<std::timed_mutex> LivePicture::hold()
+std::unique_lock<std::mutex> LivePicture::hold()
 {
     return std::unique_lock(m_mutex);
 }

@@ -46,10 +46,10 @@ public:
     void clear();
 
     /// Keeps both sides out until the result is destroyed.
-    [[nodiscard]] std::unique_lock<std::timed_mutex> hold();
+    [[nodiscard]] std::unique_lock<std::mutex> hold();
 
 private:
-    std::timed_mutex m_mutex;
+    std::mutex m_mutex;
     QImage m_picture;
     QSize m_nativeSize;
     std::atomic<bool> m_copying = false;

@@ -1,9 +1,9 @@
 // The painting of RamPreview, what is read from the picture at a paint, and the mouse.
 
-#include "preview/HistoCalc.h"
 #include "preview/MaskOverlay.h"
 #include "preview/RamPreview.h"
 #include "preview/StoredText.h"
+#include "shared/HistoCalc.h"
 
 #include <cmath>
 #include <QQuickWindow>

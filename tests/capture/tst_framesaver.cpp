@@ -3,9 +3,12 @@
 #include "capture/webcam/FrameSaver.h"
 #include "shared/Zum.h"
 
+#include <cstdio>
 #include <QDir>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QImageReader>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -54,6 +57,26 @@ QImage colourful(int width, int height)
     return image;
 }
 
+const QString shootArgument = QStringLiteral("--shoot");
+
+/// The program that is killed: saves one shot after the other and says so.
+int shootUntilKilled(const QString &folder)
+{
+    Heard heard;
+    FrameSaver saver(heard);
+    const QImage picture = colourful(640, 480);
+    for (int i = 0; i < 1000; ++i) {
+        CaptureRequest request;
+        const QString tail = QStringLiteral("_%1_260101120000.jpg").arg(i, 6, 10, QLatin1Char('0'));
+        request.fullPath = folder + QStringLiteral("/frame_norm") + tail;
+        request.tumbPath = folder + QStringLiteral("/frame_mini") + tail;
+        saver.save(picture, request);
+        std::fputs("shot\n", stdout);
+        std::fflush(stdout);
+    }
+    return 0;
+}
+
 } // namespace
 
 class TestFrameSaver : public QObject
@@ -79,6 +102,7 @@ private slots:
     void anExistingFileIsNeverOverwritten();
     void leftoversOfKilledProgramsGo();
     void nothingIsLeftOfAFileThatWasNotPlaced();
+    void aKilledProgramLeavesNoDamagedImage();
     void namesAndTimeStamps();
     void theNextSecondCarriesOver_data();
     void theNextSecondCarriesOver();
@@ -290,6 +314,33 @@ void TestFrameSaver::nothingIsLeftOfAFileThatWasNotPlaced()
     QVERIFY(QDir(folder->path()).entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
 
+void TestFrameSaver::aKilledProgramLeavesNoDamagedImage()
+{
+    const QDir dir(folder->path());
+    int whole = 0;
+    for (int round = 0; round < 8; ++round) {
+        QProcess shooter;
+        shooter.start(QCoreApplication::applicationFilePath(), {shootArgument, folder->path()});
+        QVERIFY(shooter.waitForStarted());
+        QVERIFY(shooter.waitForReadyRead());
+        // Another moment of the saving in each round.
+        QTest::qWait(3 + round * 3);
+        shooter.kill();
+        shooter.waitForFinished();
+        const QStringList names = dir.entryList({"*.jpg"}, QDir::Files);
+        for (const QString &name : names) {
+            QFile file(dir.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QByteArray bytes = file.readAll();
+            // A JPEG that was cut off lacks its end, and is decoded all the same.
+            QVERIFY2(bytes.endsWith(QByteArray("\xff\xd9")), qPrintable(name));
+            QVERIFY2(!QImage::fromData(bytes).isNull(), qPrintable(name));
+            ++whole;
+        }
+    }
+    QVERIFY(whole > 8);
+}
+
 void TestFrameSaver::namesAndTimeStamps()
 {
     capturenaming::Rules rules{false, "scene7", "_norm_", "_mini_", "jpg", "png"};
@@ -326,5 +377,12 @@ void TestFrameSaver::theNextSecondCarriesOver()
     QCOMPARE(capturenaming::nextSecond(path), next);
 }
 
-QTEST_MAIN(TestFrameSaver)
+int main(int argc, char **argv)
+{
+    const QGuiApplication app(argc, argv);
+    if (app.arguments().contains(shootArgument))
+        return shootUntilKilled(app.arguments().last());
+    TestFrameSaver test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_framesaver.moc"

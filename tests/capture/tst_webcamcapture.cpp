@@ -1,4 +1,6 @@
 #include "capture/LiveViewItem.h"
+#include "capture/ScopeFeed.h"
+#include "capture/webcam/FrameGrabber.h"
 #include "WebcamBench.h"
 
 #include <QFileInfo>
@@ -16,6 +18,8 @@ private slots:
 
     void theNextPictureGoesIntoTwoFiles();
     void theSavedPictureIsNotShown();
+    void scopesGetEveryFourthPictureBesideTheFirst();
+    void thePictureIsCutDownToTheRoomThereIs();
     void progressGoesThroughItsStations();
     void aShotBeforeTheLoopIsDroppedWithoutAWord();
     void aShotDuringAShotWarnsAndReplacesItsValues();
@@ -77,27 +81,78 @@ void TestWebCamCapture::theNextPictureGoesIntoTwoFiles()
 
 void TestWebCamCapture::theSavedPictureIsNotShown()
 {
-    QVERIFY(bench->connectCamera());
-    auto *view = qobject_cast<LiveViewItem *>(bench->window->liveView());
-    QSignalSpy saved(bench->window.get(), &WebCamWindow::frameSaved);
-    QList<int> shown;
-    connect(view, &LiveViewItem::refreshme, this,
-            [&] { shown.append(view->picture().pixelColor(0, 0).blue()); });
-    std::atomic<bool> letGo = false;
-    std::atomic<int> number = 0;
-    bench->machine.camera->onRead([&](int, cv::Mat &picture) {
-        while (!letGo)
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        picture = cv::Mat(48, 64, CV_8UC3, cv::Scalar(++number <= 2 ? 11 : 99, 0, 0));
-        return true;
-    });
-    // The reading that is under way may still be the one before.
-    bench->shoot();
-    letGo = true;
-    QTRY_COMPARE(saved.size(), 1);
-    QTRY_VERIFY(shown.contains(99));
-    QCOMPARE(QImage(full()).pixelColor(0, 0).blue(), 11);
-    QVERIFY(shown.count(11) <= 1);
+    auto camera = std::make_shared<ScriptedCamera>();
+    ScriptedSource source(camera);
+    QVERIFY(source.open());
+    LivePicture live;
+    CaptureRequests requests;
+    QList<int> savedBlues;
+    FrameGrabber grabber(source, live, nullptr, requests,
+                         {[] {}, [](const auto &) {},
+                          [&](const QImage &image, const CaptureRequest &) {
+                              savedBlues.append(image.pixelColor(0, 0).blue());
+                          }});
+    grabber.setAvailableWidth(64);
+    grabber.setAvailableHeight(48);
+    const auto shown = [&] {
+        return live.take()->picture.pixelColor(0, 0).blue();
+    };
+    QVERIFY(grabber.grab());
+    QCOMPARE(shown(), 0);
+    QVERIFY(requests.ask({}));
+    QVERIFY(grabber.grab());
+    QCOMPARE(savedBlues, QList<int>{1});
+    QCOMPARE(shown(), 0);
+    QVERIFY(grabber.grab());
+    QCOMPARE(shown(), 2);
+    QCOMPARE(savedBlues.size(), 1);
+}
+
+void TestWebCamCapture::scopesGetEveryFourthPictureBesideTheFirst()
+{
+    struct Scopes : ScopeFeed
+    {
+        QList<int> blues;
+        void feed(const QImage &shown) override
+        {
+            blues.append(shown.pixelColor(0, 0).blue());
+        }
+    } scopes;
+    auto camera = std::make_shared<ScriptedCamera>();
+    ScriptedSource source(camera);
+    QVERIFY(source.open());
+    LivePicture live;
+    CaptureRequests requests;
+    FrameGrabber grabber(source, live, &scopes, requests, {[] {}, [](const auto &) {}, {}});
+    for (int i = 0; i < 13; ++i)
+        QVERIFY(grabber.grab());
+    QCOMPARE(scopes.blues, (QList<int>{4, 8, 12}));
+}
+
+void TestWebCamCapture::thePictureIsCutDownToTheRoomThereIs()
+{
+    auto camera = std::make_shared<ScriptedCamera>();
+    camera->onRead(ScriptedCamera::plain(1280, 720));
+    ScriptedSource source(camera);
+    QVERIFY(source.open());
+    LivePicture live;
+    CaptureRequests requests;
+    FrameGrabber grabber(source, live, nullptr, requests, {[] {}, [](const auto &) {}, {}});
+    for (const bool smooth : {true, false}) {
+        grabber.setSmooth(smooth);
+        for (const auto &[room, size] :
+             {std::pair(QSize(640, 640), QSize(640, 360)), std::pair(QSize(5000, 72), QSize(128, 72)),
+              std::pair(QSize(1280, 720), QSize(1280, 720)), std::pair(QSize(0, 0), QSize(1, 1))}) {
+            grabber.setAvailableWidth(room.width());
+            grabber.setAvailableHeight(room.height());
+            QVERIFY(grabber.grab());
+            const auto taken = live.take();
+            QCOMPARE(taken->picture.size(), size);
+            QCOMPARE(taken->picture.format(), QImage::Format_ARGB32);
+            QCOMPARE(taken->nativeSize, QSize(1280, 720));
+            QCOMPARE(grabber.sizes().scaled, size);
+        }
+    }
 }
 
 void TestWebCamCapture::progressGoesThroughItsStations()

@@ -1,8 +1,13 @@
 #include "capture/LiveViewItem.h"
+#include "capture/OsSpecific.h"
 #include "capture/webcam/WebCamEvent.h"
 #include "WebcamBench.h"
 
 #include <algorithm>
+#include <QMetaProperty>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
 #include <QRegularExpression>
 #include <thread>
 
@@ -55,6 +60,8 @@ private slots:
     void noHistogramUnlessWanted();
     void eventsOfTheSharedVocabulary();
     void messagesArePrintedInQuotes();
+    void theSceneGivesItsEnvironmentByName();
+    void theSceneKnowsTheseNames();
 
 private:
     void send(int number, const QVariant &value = {})
@@ -223,15 +230,19 @@ void TestWebCamWindow::disconnectingClearsEverything()
 void TestWebCamWindow::disconnectingWhileConnectingGivesUpSoon()
 {
     std::atomic<bool> reading = false;
+    std::atomic<bool> letGo = false;
     bench->machine.camera->onRead([&](int, cv::Mat &) {
         reading = true;
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        while (!letGo)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
         return false;
     });
     bench->window->connects();
     QTRY_VERIFY(reading);
-    QVERIFY(bench->disconnectCamera());
-    QVERIFY(bench->machine.clock->waitedMs() < 20 * 500);
+    bench->window->disconnects();
+    letGo = true;
+    QVERIFY(bench->waitForEnd());
+    QCOMPARE(bench->machine.clock->waitedMs(), 0);
     QVERIFY(!bench->told(Zum::Error, WebcamBench::notPresent()));
     QVERIFY(!bench->global.busy());
 }
@@ -589,6 +600,79 @@ void TestWebCamWindow::messagesArePrintedInQuotes()
 {
     QTest::ignoreMessage(QtDebugMsg, "\"hello\"");
     bench->window->printMessage(1, "hello");
+}
+
+void TestWebCamWindow::theSceneGivesItsEnvironmentByName()
+{
+    qmlRegisterType<WebCamWindow>("WebCamera", 1, 0, "WebCamera");
+    qmlRegisterType<OsSpecific>("OsSpecific", 1, 0, "OsSpecific");
+    QQmlEngine engine;
+    engine.rootContext()->setContextProperty(CaptureEnvironment::contextName, &bench->environment);
+    QQmlComponent component(&engine);
+    component.setData(
+        "import QtQuick; import WebCamera 1.0; import OsSpecific 1.0\n"
+        "WebCamera {\n"
+        "    id: cam\n"
+        "    property var devices: os.usbCapturingDevicesList\n"
+        "    property OsSpecific os: OsSpecific {}\n"
+        "    function look() { os.getDevices(); cam.connects(); return devices[0].name; }\n"
+        "}",
+        QUrl());
+    const std::unique_ptr<QObject> object(component.create());
+    QVERIFY2(object, qPrintable(component.errorString()));
+    QVariant name;
+    QVERIFY(QMetaObject::invokeMethod(object.get(), "look", Q_RETURN_ARG(QVariant, name)));
+    QCOMPARE(name.toString(), QString("Demo Webcam"));
+    QTRY_VERIFY(object->property("connected").toBool());
+}
+
+void TestWebCamWindow::theSceneKnowsTheseNames()
+{
+    const QMetaObject &meta = WebCamWindow::staticMetaObject;
+    for (const char *name : {"connected",
+                             "threadIsRunning",
+                             "busy",
+                             "fps",
+                             "rotate",
+                             "paused",
+                             "renderSmooth",
+                             "histogramOn",
+                             "grayscale",
+                             "histogramDataY",
+                             "histogramDataR",
+                             "histogramDataG",
+                             "histogramDataB",
+                             "coordSystemWidth",
+                             "coordSystemHeight",
+                             "progressAction",
+                             "progressTotal",
+                             "progressCurrent",
+                             "focusFrameOn",
+                             "firmWareVer",
+                             "global",
+                             "powerFactor",
+                             "zoomFactor",
+                             "eyedropperOn",
+                             "availWidth",
+                             "availHeight"}) {
+        const int index = meta.indexOfProperty(name);
+        QVERIFY2(index >= 0, name);
+        QCOMPARE(meta.property(index).notifySignal().name(), QByteArray(name) + "Changed");
+    }
+    for (const char *signature :
+         {"frameSaved()", "frameSaveError()", "message(int,QString)", "enableEyedropper(bool)",
+          "setEyedropper(QPoint,QColor)", "mousePressed(QPoint)", "rightClick(QPoint)", "avListChanged()",
+          "coordSystemChanged()", "powerFactorChanged(int)", "availWidthChanged(int)"})
+        QVERIFY2(meta.indexOfSignal(signature) >= 0, signature);
+    for (const char *signature :
+         {"printMessage(int,QString)", "loadCameraSettings()", "updateScreen()", "disconnectsContinued()",
+          "setZoomRectPos()", "setFrameSize(int,int)", "connects(bool)", "connects()", "disconnects()",
+          "calcHistogramData()", "captureFrame(QString,QString,QString,int,int,bool,bool,bool)",
+          "showSettingsDialog(int)"})
+        QVERIFY2(meta.indexOfSlot(signature) >= 0, signature);
+    for (const char *name : {"connected", "threadIsRunning", "fps", "busy", "histogramDataY",
+                             "coordSystemWidth", "progressTotal"})
+        QVERIFY2(!meta.property(meta.indexOfProperty(name)).isWritable(), name);
 }
 
 QTEST_MAIN(TestWebCamWindow)

@@ -238,7 +238,7 @@ void TestReadAhead::stepsOfTheCursorMakeNoPlan()
 void TestReadAhead::turningRoundMakesAPlan()
 {
     FramesModel model;
-    fill(model, {"a", "b", "c"});
+    fill(model, {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"});
     model.setLoop(true);
     model.setPendulum(true);
     TimelineReadAhead readAhead(model);

@@ -61,7 +61,7 @@ public:
     {
         return *m_desktop;
     }
-    QQuickItem &root()
+    QQuickItem &root() const
     {
         return *m_window->rootObject();
     }

@@ -116,8 +116,8 @@ void FrameGrabber::countHistogram(const QImage &picture)
         ++m_histogramSkipped;
         return;
     }
-    const morvane::PictureHistogram histogram = morvane::pictureHistogram(picture);
-    if (!histogram.isEmpty())
+    const HistoCalc::Channels histogram = HistoCalc::calculate(picture);
+    if (!histogram.y.isEmpty())
         m_hooks.histogram(histogram);
     m_histogramSkipped = 0;
 }

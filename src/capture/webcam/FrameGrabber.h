@@ -1,7 +1,7 @@
 #pragma once
 
 #include "capture/webcam/CaptureRequests.h"
-#include "shared/PictureHistogram.h"
+#include "shared/HistoCalc.h"
 
 #include <atomic>
 #include <functional>
@@ -23,7 +23,7 @@ public:
     {
         /// The first picture, or one of another size.
         std::function<void()> sizeChanged;
-        std::function<void(const morvane::PictureHistogram &)> histogram;
+        std::function<void(const HistoCalc::Channels &)> histogram;
         /// A picture that is shot, as the camera gave it.
         std::function<void(const QImage &, const CaptureRequest &)> save;
     };

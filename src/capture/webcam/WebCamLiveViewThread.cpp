@@ -35,6 +35,11 @@ constexpr std::array<int, 11> openCvProperties{
     cv::CAP_PROP_GAIN,       cv::CAP_PROP_EXPOSURE, cv::CAP_PROP_AUTO_EXPOSURE, cv::CAP_PROP_SHARPNESS,
     cv::CAP_PROP_ZOOM,       cv::CAP_PROP_FOCUS,    cv::CAP_PROP_AUTOFOCUS};
 
+QVariantList toVariants(const QList<qreal> &values)
+{
+    return {values.cbegin(), values.cend()};
+}
+
 } // namespace
 
 WebCamLiveViewThread::WebCamLiveViewThread(Setup setup)
@@ -47,11 +52,11 @@ WebCamLiveViewThread::WebCamLiveViewThread(Setup setup)
                      if (m_connected)
                          postToWindow(WebCamEvent::SizeChanged, {}, 1);
                  },
-                 [this](const morvane::PictureHistogram &histogram) {
-                     postToWindow(WebCamEvent::HistogramY, histogram.luminance);
-                     postToWindow(WebCamEvent::HistogramR, histogram.red);
-                     postToWindow(WebCamEvent::HistogramG, histogram.green);
-                     postToWindow(WebCamEvent::HistogramB, histogram.blue);
+                 [this](const HistoCalc::Channels &channels) {
+                     postToWindow(WebCamEvent::HistogramY, toVariants(channels.y));
+                     postToWindow(WebCamEvent::HistogramR, toVariants(channels.r));
+                     postToWindow(WebCamEvent::HistogramG, toVariants(channels.g));
+                     postToWindow(WebCamEvent::HistogramB, toVariants(channels.b));
                  },
                  [this](const QImage &image, const CaptureRequest &request) {
                      m_saver.save(image, request);

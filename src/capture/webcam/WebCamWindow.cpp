@@ -225,12 +225,14 @@ void WebCamWindow::connects(bool)
         takeBusy(false);
         return;
     }
-    startThread();
+    makeThread();
+    // Before the start, for a thread that finds no camera has ended in a moment.
     connectThread();
+    m_thread->start(QThread::HighestPriority);
     emit threadIsRunningChanged();
 }
 
-void WebCamWindow::startThread()
+void WebCamWindow::makeThread()
 {
     WebCamLiveViewThread::Setup setup;
     setup.source = m_environment->makeSource(m_global ? m_global->camindex() : 0);
@@ -245,13 +247,6 @@ void WebCamWindow::startThread()
     setup.histogram = m_histogramOn;
     m_thread = std::make_shared<WebCamLiveViewThread>(std::move(setup));
     postToDisplay(WebCamEvent::AcceptingOn);
-    // Before the start: a camera that is not there ends the thread at once.
-    connect(m_thread.get(), &QThread::finished, this, [this, thread = m_thread.get()] {
-        // One that was freed already has nothing more to tell.
-        if (m_thread.get() == thread)
-            disconnectsContinued();
-    });
-    m_thread->start(QThread::HighestPriority);
 }
 
 void WebCamWindow::connectThread()

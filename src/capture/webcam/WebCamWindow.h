@@ -142,7 +142,7 @@ protected:
     void customEvent(QEvent *event) override;
 
 private:
-    void startThread();
+    void makeThread();
     void connectThread();
     void takeBusy(bool busy);
     void takeFirmWare();

@@ -89,8 +89,9 @@ void TestSceneValues::typesAreRegisteredInTheirOrder()
 {
     ShellWindow shell;
     int before = -1;
-    for (const char *name : {"Progress", "Histogram", "CRamPreview", "Zum", "WheelArea", "CursorShapeArea",
-                             "Aslider", "QNumImput", "QChromaKey"}) {
+    for (const char *name :
+         {"Progress", "Histogram", "CRamPreview", "Zum", "WheelArea", "CursorShapeArea", "Aslider",
+          "QNumImput", "QChromaKey", "RowBand", "TimelineIndicator"}) {
         const int id = qmlTypeId(name, 1, 0, name);
         QVERIFY2(id > before, name);
         before = id;
