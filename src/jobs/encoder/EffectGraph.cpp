@@ -58,10 +58,46 @@ bool isSingleFilter(const QString &description)
                         [](QChar character) { return QStringView(u",;[]'\\").contains(character); });
 }
 
+QString filterName(const QString &description)
+{
+    return description.section(QLatin1Char('='), 0, 0).trimmed();
+}
+
+// A control may go further than the filter of this FFmpeg does: then its nearest value counts.
+QString limited(const QString &pair, const AVClass *kind)
+{
+    const QString key = pair.section(QLatin1Char('='), 0, 0);
+    bool isNumber = false;
+    const double value = pair.section(QLatin1Char('='), 1).toDouble(&isNumber);
+    const AVOption *option = av_opt_find(&kind, key.toUtf8().constData(), nullptr, 0, AV_OPT_SEARCH_FAKE_OBJ);
+    if (!isNumber || option == nullptr || option->min >= option->max
+        || (value >= option->min && value <= option->max))
+        return pair;
+    switch (option->type) {
+        case AV_OPT_TYPE_INT:
+        case AV_OPT_TYPE_INT64:
+        case AV_OPT_TYPE_FLOAT:
+        case AV_OPT_TYPE_DOUBLE:
+            return key + QLatin1Char('=') + QString::number(std::clamp(value, option->min, option->max));
+        default:
+            return pair;
+    }
+}
+
+QString withinLimits(const QString &description)
+{
+    const AVFilter *filter = avfilter_get_by_name(filterName(description).toUtf8().constData());
+    if (filter == nullptr || filter->priv_class == nullptr)
+        return description;
+    QStringList pairs = description.section(QLatin1Char('='), 1).split(QLatin1Char(':'));
+    for (QString &pair : pairs)
+        pair = limited(pair, filter->priv_class);
+    return filterName(description) + QLatin1Char('=') + pairs.join(QLatin1Char(':'));
+}
+
 int mayBeUsed(const QString &description)
 {
-    const QByteArray name = description.section(QLatin1Char('='), 0, 0).trimmed().toUtf8();
-    const AVFilter *filter = avfilter_get_by_name(name.constData());
+    const AVFilter *filter = avfilter_get_by_name(filterName(description).toUtf8().constData());
     if (filter == nullptr)
         return AVERROR_FILTER_NOT_FOUND;
     if (!isSingleFilter(description) || !takesOnePicture(*filter) || reachesOutside(*filter))
@@ -113,9 +149,10 @@ QString sourceArguments(const EffectGraph::Picture &picture)
 
 } // namespace
 
-bool EffectGraph::build(const QString &description, const Picture &picture)
+bool EffectGraph::build(const QString &given, const Picture &picture)
 {
     m_ready = false;
+    const QString description = withinLimits(given);
     int tested = mayBeUsed(description);
     if (tested == 0)
         tested = parses(description);

@@ -22,7 +22,8 @@ public:
     /// False, with a line in the log, when the description is not one effect that this FFmpeg has.
     ///
     /// A description comes with a project and is not trusted: only a single filter with one picture in and
-    /// one out is taken, and none that names files, addresses or plug-ins.
+    /// one out is taken, and none that names files, addresses or plug-ins. A number beyond the filter's
+    /// limits counts as the limit.
     bool build(const QString &description, const Picture &picture);
     bool isReady() const
     {
