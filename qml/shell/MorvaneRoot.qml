@@ -103,6 +103,8 @@ SceneDevices {
         id: panels
     }
 
+    PostProcessState {}
+
     ScreenArea {
         id: screenArea
 

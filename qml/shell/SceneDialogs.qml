@@ -37,6 +37,10 @@ FocusScope {
         showDialog("ProjectPresets.qml");
     }
 
+    function postProcessFiltersBox() {
+        showDialog("PostProcessFiltersDialog.qml");
+    }
+
     function aboutBox() {
         showDialog("About.qml");
     }

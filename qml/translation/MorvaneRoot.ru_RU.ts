@@ -42,6 +42,10 @@
         <translation>Новый проект</translation>
     </message>
     <message>
+        <source>Filters of the picture</source>
+        <translation>Фильтры изображения</translation>
+    </message>
+    <message>
         <source>Open a project</source>
         <translation>Открыть проект</translation>
     </message>

@@ -2,6 +2,7 @@
 
 #include "app/MainWindow.h"
 #include "app/WindowQuitHost.h"
+#include "project/BackgroundImage.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -20,6 +21,12 @@ AppControllers::AppControllers(AppEnvironment given)
                                   ProjectNeighbours{timeline, curvesPath, cameraSettings, screen}, operation,
                                   fileOperations, lock)
 {
+    // A picture that the user has chosen comes with its path; the project keeps a copy and the bare name.
+    QObject::connect(&global, &WebcamGlobal::backgroundImageChanged, &global, [this] {
+        const QString path = global.backgroundImage();
+        if (QDir::isAbsolutePath(path))
+            global.setBackgroundImage(morvane::adoptBackgroundImage(path, paths.tree().backgroundDirPath));
+    });
 }
 
 AppControllers::~AppControllers() = default;

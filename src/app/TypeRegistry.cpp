@@ -4,6 +4,8 @@
 #include "app/CursorShapeArea.h"
 #include "app/QNumImput.h"
 #include "app/WheelArea.h"
+#include "preview/Histogram.h"
+#include "preview/QChromaKey.h"
 #include "shared/Zum.h"
 #include "timeline/Progress.h"
 
@@ -26,6 +28,7 @@ void add(const char *name)
 void registerTypes()
 {
     add<Progress>("Progress");
+    add<Histogram>("Histogram");
     add<Zum>("Zum");
     add<WheelArea>("WheelArea");
     add<CursorShapeArea>("CursorShapeArea");
@@ -34,6 +37,7 @@ void registerTypes()
     qRegisterMetaType<QPolygon>("QPolygon");
     add<ASlider>("Aslider");
     add<QNumImput>("QNumImput");
+    add<QChromaKey>("QChromaKey");
 }
 
 } // namespace typeregistry

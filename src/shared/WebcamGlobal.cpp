@@ -188,6 +188,25 @@ void WebcamGlobal::updateExportSizes()
     setSequenceExportSizeW(sequence.width);
 }
 
+void WebcamGlobal::setPostProcessSetting(const QString &key, const QVariant &value)
+{
+    QVariantMap settings = postProcessSettings();
+    settings.insert(key, value);
+    setPostProcessSettings(settings);
+}
+
+void WebcamGlobal::removePostProcessSetting(const QString &key)
+{
+    QVariantMap settings = postProcessSettings();
+    settings.remove(key);
+    setPostProcessSettings(settings);
+}
+
+QVariant WebcamGlobal::getPostProcessSetting(const QString &key, const QVariant &defaultVal) const
+{
+    return postProcessSettings().value(key, defaultVal);
+}
+
 void WebcamGlobal::checkUserInactivity()
 {
     const bool watching = currentActiveTab() == Zum::CaptureTab && connected();

@@ -46,6 +46,10 @@ public slots:
     void updateCropAreaScale(qreal w, qreal h);
     /// Brings both export sizes to the shape of the crop area, in multiples of 8.
     void updateExportSizes();
+    /// One filter's entry in postProcessSettings; a filter without an entry is off.
+    void setPostProcessSetting(const QString &key, const QVariant &value);
+    void removePostProcessSetting(const QString &key);
+    QVariant getPostProcessSetting(const QString &key, const QVariant &defaultVal) const;
     /// One minute of the inactivity watch has passed.
     void checkUserInactivity();
 

@@ -35,6 +35,7 @@ private slots:
     void exportSizes_data();
     void exportSizes();
     void videoAndSequenceSizesAreIndependent();
+    void filterSettingsAreKeptByKey();
     void inactivityCountsMinutes();
     void inactivityAtTheMaximumPausesTheLiveView();
     void activityReleasesThePausedLiveView();
@@ -328,6 +329,23 @@ void TestWebcamGlobal::videoAndSequenceSizesAreIndependent()
     global.updateExportSizes();
     QCOMPARE(global.exportSize(), QSize(800, 400));
     QCOMPARE(global.sequenceExportSize(), QSize(400, 200));
+}
+
+void TestWebcamGlobal::filterSettingsAreKeptByKey()
+{
+    const QString key = QStringLiteral("contrast");
+    WebcamGlobal global;
+    QSignalSpy changes(&global, &WebcamGlobal::postProcessSettingsChanged);
+    QCOMPARE(global.getPostProcessSetting(key, 7), QVariant(7));
+    global.setPostProcessSetting(key, 12);
+    QCOMPARE(global.getPostProcessSetting(key, 7), QVariant(12));
+    QCOMPARE(global.postProcessSettings(), QVariantMap({{key, 12}}));
+    global.setPostProcessSetting(key, 12);
+    QCOMPARE(changes.count(), 1);
+    global.removePostProcessSetting(key);
+    QVERIFY(global.postProcessSettings().isEmpty());
+    global.removePostProcessSetting(key);
+    QCOMPARE(changes.count(), 2);
 }
 
 void TestWebcamGlobal::inactivityCountsMinutes()

@@ -132,6 +132,7 @@ void TestDialogLooks::showsEveryTextWhole()
         {"CamReconnectConfirmDialog", ""},
         {"CamDisconnectConfirmDialog", ""},
         {"CamReloadDeviceConfirmDialog", ""},
+        {"PostProcessFiltersDialog", ""},
         {"ProjectPresets", ""},
         {"About", ""},
     };

@@ -89,7 +89,8 @@ void TestSceneValues::typesAreRegisteredInTheirOrder()
 {
     ShellWindow shell;
     int before = -1;
-    for (const char *name : {"Progress", "Zum", "WheelArea", "CursorShapeArea", "Aslider", "QNumImput"}) {
+    for (const char *name : {"Progress", "Histogram", "Zum", "WheelArea", "CursorShapeArea", "Aslider",
+                             "QNumImput", "QChromaKey"}) {
         const int id = qmlTypeId(name, 1, 0, name);
         QVERIFY2(id > before, name);
         before = id;
@@ -99,8 +100,8 @@ void TestSceneValues::typesAreRegisteredInTheirOrder()
         QVERIFY2(component.isReady(), qPrintable(component.errorString()));
     }
     // These stand in the same row as soon as there is something behind them.
-    for (const char *name : {"WebCamera", "Histogram", "CRamPreview", "CycloBarC", "PathRenderer",
-                             "BufferPlayer", "QmlVideo", "CanonCamera"})
+    for (const char *name :
+         {"WebCamera", "CRamPreview", "CycloBarC", "PathRenderer", "BufferPlayer", "QmlVideo", "CanonCamera"})
         QVERIFY2(qmlTypeId(name, 1, 0, name) == -1, name);
 }
 
