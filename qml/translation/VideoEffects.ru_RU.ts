@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>Hue</source>
-        <translation type="unfinished">Оттенок</translation>
+        <translation>Тон</translation>
     </message>
     <message>
         <source>Independence</source>
@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>Max</source>
-        <translation>Макс.</translation>
+        <translation>Макс</translation>
     </message>
     <message>
         <source>Maximum</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Min</source>
-        <translation>Мин.</translation>
+        <translation>Мин</translation>
     </message>
     <message>
         <source>Minimum</source>
