@@ -34,7 +34,9 @@ RobotSupervisor::RobotSupervisor(RobotServices services, QObject *parent)
 
 RobotSupervisor::~RobotSupervisor()
 {
-    emit stopRobot();
+    // Not by the signal: those who listen may be gone already.
+    if (m_robot != nullptr)
+        m_robot->stop();
     endThread();
     m_thread.wait();
 }
