@@ -8,7 +8,7 @@ DialogBox {
 
     property alias estimate: remaining
     // The kind of job followed last; the window forgets it with the job's end.
-    property int job: MainWindow.currentRobotJob
+    property int job: Zum.NoJob
     property bool closedByUser: false
     readonly property bool running: MainWindow.progressTotal > 0
     // A total of one says that nobody can count the steps.
@@ -16,6 +16,12 @@ DialogBox {
     readonly property bool failed: MainWindow.robotErrorCount > 0
     readonly property bool hasVideo: !running && job === Zum.RenderVideo && WebcamGlobal.lastRenderedPath !== ""
     readonly property bool hasFrames: !running && job === Zum.ExportFrames && WebcamGlobal.exportPath !== ""
+
+    function follow(job) {
+        dialog.job = job;
+        // Whoever waits for a file wants to read how it went.
+        WebcamGlobal.dialogRemainsVisible = [Zum.RenderVideo, Zum.ExportFrames, Zum.SplitVideo].includes(job);
+    }
 
     function forgetErrors() {
         MainWindow.robotErrorCount = 0;
@@ -32,7 +38,12 @@ DialogBox {
     }
 
     heading: running ? MainWindow.progressAction : qsTr("Completed")
+    Component.onCompleted: {
+        if (MainWindow.currentRobotJob !== Zum.NoJob)
+            follow(MainWindow.currentRobotJob);
+    }
     Component.onDestruction: {
+        WebcamGlobal.dialogRemainsVisible = false;
         if (!closedByUser && MainWindow.progressTotal === 0)
             forgetErrors();
     }
@@ -95,7 +106,7 @@ DialogBox {
 
         function onCurrentRobotJobChanged() {
             if (MainWindow.currentRobotJob !== Zum.NoJob)
-                dialog.job = MainWindow.currentRobotJob;
+                dialog.follow(MainWindow.currentRobotJob);
         }
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Zum 1.0
 
 // The panel of the tab, at the right.
 Rectangle {
@@ -6,6 +7,9 @@ Rectangle {
 
     required property var scene
     property bool shown: true
+    readonly property bool renders: WebcamGlobal.currentActiveTab === Zum.TimingTab
+    // Unless the window is very low, what one renders with never scrolls away.
+    readonly property bool roomy: height > 24 * DefFontSizeNormal
 
     // Without a project there is nothing to set.
     width: shown && MainWindow.projectLoaded ? Math.min(ControlsPanesBoxW, parent.width * 0.36) : 0
@@ -15,24 +19,68 @@ Rectangle {
     Flickable {
         id: flick
 
-        anchors.fill: parent
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.bottom: bottomPlace.top
         anchors.margins: DefFontSizeMicro
-        contentHeight: pane.item ? pane.item.height : 0
+        contentHeight: panes.height
         boundsBehavior: Flickable.StopAtBounds
         clip: true
 
-        Loader {
-            id: pane
+        Column {
+            id: panes
 
             width: flick.width - DefFontSizeMicro
-            active: MainWindow.projectLoaded
-            sourceComponent: ProjectPane {
-                scene: controlsPanesBox.scene
+            spacing: DefFontSizeMicro
+
+            // Made when it is first shown.
+            Loader {
+                id: renderPane
+
+                property bool wanted: false
+
+                width: parent.width
+                active: MainWindow.projectLoaded && wanted
+                visible: controlsPanesBox.renders
+                onVisibleChanged: wanted = wanted || visible
+                sourceComponent: RenderPane {
+                    scene: controlsPanesBox.scene
+                    footPlace: controlsPanesBox.roomy ? bottomPlace : null
+                }
+            }
+
+            Loader {
+                width: parent.width
+                active: MainWindow.projectLoaded
+                sourceComponent: ProjectPane {
+                    scene: controlsPanesBox.scene
+                }
             }
         }
     }
 
+    Item {
+        id: bottomPlace
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.leftMargin: DefFontSizeMicro
+        anchors.rightMargin: 2 * DefFontSizeMicro
+        visible: controlsPanesBox.renders
+        height: visible && children.length > 0 ? children[0].height + DefFontSizeMicro : 0
+    }
+
+    FocusReveal {
+        flickable: flick
+        bar: bar
+        holder: panes
+    }
+
     Scrollbar {
+        id: bar
+
         anchors.right: parent.right
         anchors.top: flick.top
         anchors.bottom: flick.bottom

@@ -105,6 +105,11 @@ Item {
             connections.scene.projectPresetsBox();
         }
 
+        function onLastRenderedPathChanged() {
+            if (MainWindow.fileExists(WebcamGlobal.lastRenderedPath))
+                WebcamGlobal.playerSource = WebcamGlobal.lastRenderedPath;
+        }
+
         function onKey_Backspace() {
             CurvesModel.removePoint();
         }
