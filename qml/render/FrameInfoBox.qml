@@ -64,16 +64,17 @@ Pane {
             box.refresh();
         }
 
-        function onTimelineChanged() {
-            box.refresh();
-        }
-
         function onPlayingChanged() {
             box.refresh();
         }
 
-        function onCountChanged() {
-            box.refresh();
+        // Comes once for each frame of a batch.
+        function onChanged() {
+            Qt.callLater(box.refresh);
+        }
+
+        function onTimelineChanged() {
+            Qt.callLater(box.refresh);
         }
     }
 }
