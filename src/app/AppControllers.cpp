@@ -10,7 +10,8 @@
 AppControllers::AppControllers(AppEnvironment given)
     : environment(std::move(given)), windowFlags(startup::windowFlags(settings())),
       locale(settings(), [this] { return environment.systemLocale; }), devices(global),
-      recent(settings(), environment.now), paths(settings(), pathHooks(), QDir::homePath()),
+      robot(robotServices()), recent(settings(), environment.now),
+      paths(settings(), pathHooks(), QDir::homePath()),
       files(*environment.dialogs, settings(), global,
             [this] { return paths.projPath().isEmpty() ? QString() : paths.projDirPath(); }),
       editor(files, settings(), *environment.desktop, messages),
@@ -56,6 +57,13 @@ ProjectServices AppControllers::projectServices()
         robot.setCurrentRobotJob(Zum::NoJob);
     };
     return services;
+}
+
+RobotServices AppControllers::robotServices()
+{
+    return {global, frames, progress, messages, [this] {
+                return RobotProject{lifecycle.projectLoaded(), paths.projDirPath(), paths.projName()};
+            }};
 }
 
 void AppControllers::attachWindow(MainWindow &window)

@@ -78,4 +78,5 @@ struct AppControllers
 private:
     ProjectPaths::Hooks pathHooks();
     ProjectServices projectServices();
+    RobotServices robotServices();
 };
