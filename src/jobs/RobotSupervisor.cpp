@@ -32,7 +32,9 @@ RobotSupervisor::RobotSupervisor(RobotServices services, QObject *parent)
 
 RobotSupervisor::~RobotSupervisor()
 {
-    emit stopRobot();
+    // Not by the signal: whoever hears it goes at the same time.
+    if (m_robot != nullptr)
+        m_robot->stop();
     endThread();
     m_thread.wait();
 }
