@@ -17,10 +17,9 @@ DialogBox {
     readonly property bool hasVideo: !running && job === Zum.RenderVideo && WebcamGlobal.lastRenderedPath !== ""
     readonly property bool hasFrames: !running && job === Zum.ExportFrames && WebcamGlobal.exportPath !== ""
 
-    function follow(job) {
-        dialog.job = job;
-        // Whoever waits for a file wants to read how it went.
-        WebcamGlobal.dialogRemainsVisible = [Zum.RenderVideo, Zum.ExportFrames, Zum.SplitVideo].includes(job);
+    function follow() {
+        if (MainWindow.currentRobotJob !== Zum.NoJob)
+            job = MainWindow.currentRobotJob;
     }
 
     function forgetErrors() {
@@ -38,12 +37,8 @@ DialogBox {
     }
 
     heading: running ? MainWindow.progressAction : qsTr("Completed")
-    Component.onCompleted: {
-        if (MainWindow.currentRobotJob !== Zum.NoJob)
-            follow(MainWindow.currentRobotJob);
-    }
+    Component.onCompleted: follow()
     Component.onDestruction: {
-        WebcamGlobal.dialogRemainsVisible = false;
         if (!closedByUser && MainWindow.progressTotal === 0)
             forgetErrors();
     }
@@ -105,8 +100,7 @@ DialogBox {
         target: MainWindow
 
         function onCurrentRobotJobChanged() {
-            if (MainWindow.currentRobotJob !== Zum.NoJob)
-                dialog.follow(MainWindow.currentRobotJob);
+            dialog.follow();
         }
     }
 }

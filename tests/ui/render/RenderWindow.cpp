@@ -105,6 +105,13 @@ QQuickItem *RenderWindow::text(const QString &text) const
     });
 }
 
+QQuickItem *RenderWindow::entry(const QString &text) const
+{
+    return findShown(m_shell->window().contentItem(), [&](QQuickItem *item) {
+        return item->property("shortcut").isValid() && item->property("text").toString() == text;
+    });
+}
+
 QString RenderWindow::textOf(const QString &objectName) const
 {
     const QQuickItem *item = part(objectName);

@@ -52,6 +52,8 @@ public:
     QQuickItem *part(const QString &objectName) const;
     /// The item that shows this text; null without one.
     QQuickItem *text(const QString &text) const;
+    /// The entry of that text of a list that is open; null without one.
+    QQuickItem *entry(const QString &text) const;
     /// The text that a part shows; empty when it does not show.
     QString textOf(const QString &objectName) const;
     /// The button of a row of choices.
