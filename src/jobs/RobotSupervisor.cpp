@@ -23,6 +23,8 @@ RobotSupervisor::RobotSupervisor(RobotServices services, QObject *parent)
     : QObject(parent), m_services(std::move(services))
 {
     m_thread.setObjectName(QStringLiteral("robot"));
+    qRegisterMetaType<WebcamGlobal *>();
+    qRegisterMetaType<FramesModel *>();
     // Whatever comes next decides for itself whether its dialog stays.
     connect(&m_services.global, &WebcamGlobal::dialogClosing, this, [this] {
         if (currentRobotJob() == Zum::NoJob)
@@ -86,7 +88,7 @@ bool RobotSupervisor::runMorvaRobot(int jobtype, const QStringList &list, int im
 
 void RobotSupervisor::connectRobot(MorvaRobot &robot)
 {
-    // The thread's end may be heard when the next job has begun already.
+    // The end of a job and of its thread may be heard when the next job has begun already.
     const int run = ++m_run;
     connect(&m_thread, &QThread::finished, &robot, &QObject::deleteLater);
     connect(
@@ -98,7 +100,10 @@ void RobotSupervisor::connectRobot(MorvaRobot &robot)
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     // The robot's thread is inside a job: the flag must be set from here.
     connect(this, &RobotSupervisor::stopRobot, &robot, &MorvaRobot::stop, Qt::DirectConnection);
-    connect(&robot, &MorvaRobot::done, this, &RobotSupervisor::endThread);
+    connect(&robot, &MorvaRobot::done, this, [this, run] {
+        if (run == m_run)
+            endThread();
+    });
     connect(this, &RobotSupervisor::robotExportFrames, &robot, &MorvaRobot::exportFrames);
     connect(this, &RobotSupervisor::robotRenderVideo, &robot, &MorvaRobot::renderVideo);
     connect(this, &RobotSupervisor::robotImportVideo, &robot, &MorvaRobot::importVideo);

@@ -21,6 +21,8 @@ struct EncoderRecord
     int refusedPicture = -1;
     QString writeError;
     QString path;
+    /// Called before a picture is taken, on the job's thread; may wait.
+    std::function<void()> beforePicture;
 };
 
 /// Imitates an encoder: keeps what it gets and fails on demand.
@@ -48,6 +50,8 @@ public:
     }
     int encodeImage(const QImage &image) override
     {
+        if (m_record.beforePicture)
+            m_record.beforePicture();
         if (m_record.pictures.size() == m_record.refusedPicture)
             return -1;
         m_record.pictures.append(image);

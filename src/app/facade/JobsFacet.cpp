@@ -14,8 +14,6 @@ JobsFacet::JobsFacet(std::unique_ptr<AppControllers> controllers) : SettingsFace
     connect(&robot, &RobotSupervisor::robotRenderVideo, this, &JobsFacet::robotRenderVideo);
     connect(&robot, &RobotSupervisor::robotImportVideo, this, &JobsFacet::robotImportVideo);
     connect(&robot, &RobotSupervisor::robotExportFrames, this, &JobsFacet::robotExportFrames);
-    connect(&robot, &RobotSupervisor::disconnectModel, this, &JobsFacet::disconnectModel);
-    connect(&robot, &RobotSupervisor::connectModel, this, &JobsFacet::connectModel);
 }
 
 int JobsFacet::currentRobotJob() const

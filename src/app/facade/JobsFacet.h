@@ -41,6 +41,4 @@ signals:
     void robotRenderVideo(WebcamGlobal *global, FramesModel *kadry);
     void robotImportVideo(WebcamGlobal *global, FramesModel *kadry);
     void robotExportFrames(WebcamGlobal *global, FramesModel *kadry);
-    void disconnectModel();
-    void connectModel();
 };
