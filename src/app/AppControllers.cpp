@@ -62,7 +62,7 @@ ProjectServices AppControllers::projectServices()
 RobotServices AppControllers::robotServices()
 {
     return {global, frames, progress, messages, [this] {
-                return RobotProject{lifecycle.projectLoaded(), paths.projDirPath(), paths.projName()};
+                return RobotProject{lifecycle.projectLoaded(), paths.projContntDirPath(), paths.projName()};
             }};
 }
 
