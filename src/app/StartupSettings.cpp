@@ -21,8 +21,8 @@ int choice(const Settings &settings, const QString &key, int fallback, int highe
 /// The format of movies; one that no button offers counts as none.
 QString videoFormat(const Settings &settings)
 {
-    const QStringList offered{morvane::formatAvi, morvane::formatOgv, morvane::formatWebm,
-                              morvane::formatMkv, morvane::formatRaw};
+    const QStringList offered{morvane::formatAvi, morvane::formatOgv, morvane::formatWebm, morvane::formatMkv,
+                              morvane::formatRaw};
     const QString stored = settings.value(QStringLiteral("renderVideoFormat")).toString();
     return offered.contains(stored) ? stored : morvane::formatAvi;
 }

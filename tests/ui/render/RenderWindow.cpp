@@ -148,8 +148,7 @@ void RenderWindow::type(const QString &objectName, const QString &typed)
 {
     QQuickItem *field = part(objectName);
     QVERIFY(field != nullptr);
-    QQuickItem *editor =
-        findShown(field, [](QQuickItem *item) { return item->inherits("QQuickTextInput"); });
+    QQuickItem *editor = findShown(field, [](QQuickItem *item) { return item->inherits("QQuickTextInput"); });
     click(editor);
     QTRY_VERIFY(editor->hasActiveFocus());
     m_shell->press(Qt::Key_A, Qt::ControlModifier);

@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// The panel of the Timing tab: what each control changes and remembers, what is noted beside it, when the
-/// start button can be pressed, and the line that says what would be made.
+/// The panel of the Timing tab: what each control changes and remembers, and what is noted beside it.
 class TestRenderPane : public QObject
 {
     Q_OBJECT
@@ -56,31 +55,11 @@ private slots:
     void unknownEffectIsNamedAfterItsFilter();
     void effectsDialogOpens();
 
-    void everySummary_data();
-    void everySummary();
-    void sequenceSummary_data();
-    void sequenceSummary();
-
-    void startNeedsARange();
-    void startNeedsAFreeWorker();
-    void problemsAreNamed_data();
-    void problemsAreNamed();
-    void tabsAreBlockedDuringAnExport_data();
-    void tabsAreBlockedDuringAnExport();
-    void folderOfMoviesIsShown();
-
-    void frameInfoFollowsTheCurrentFrame();
-    void frameInfoTellsTheState();
-    void everyControlIsReachedByTheKeyboard();
-    void everyControlHasAToolTipAndAName();
-
 private:
     QQuickItem *pane() const
     {
         return w->shell().item(u"controlsPanesBox"_s);
     }
-    QObject *strings() const;
-    QList<QQuickItem *> tabStops() const;
 
     std::unique_ptr<RenderWindow> w;
 };
@@ -137,16 +116,6 @@ void TestRenderPane::cleanup()
 {
     w->window().setQmlDialogUrl({});
     QCOMPARE(w->shell().sceneWarnings(), QStringList());
-}
-
-QObject *TestRenderPane::strings() const
-{
-    const QList<QObject *> all = w->shell().root().findChildren<QObject *>();
-    for (QObject *object : all) {
-        if (object->metaObject()->indexOfProperty("sequeExpStr") >= 0)
-            return object;
-    }
-    return nullptr;
 }
 
 void TestRenderPane::standsOnTheTimingTabOnly()
@@ -242,11 +211,16 @@ void TestRenderPane::fileNameIsCleaned_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("name");
-    QTest::newRow("plain") << "walk" << "walk";
-    QTest::newRow("blanks and hyphens") << "  walk  of-the fox " << "walk_of_the_fox";
-    QTest::newRow("what no name bears") << "w/a\\l?k\"{1}" << "walk1";
-    QTest::newRow("nothing is left") << "?/?" << "videotest";
-    QTest::newRow("emptied") << " " << "videotest";
+    QTest::newRow("plain") << "walk"
+                           << "walk";
+    QTest::newRow("blanks and hyphens") << "  walk  of-the fox "
+                                        << "walk_of_the_fox";
+    QTest::newRow("what no name bears") << "w/a\\l?k\"{1}"
+                                        << "walk1";
+    QTest::newRow("nothing is left") << "?/?"
+                                     << "videotest";
+    QTest::newRow("emptied") << " "
+                             << "videotest";
 }
 
 void TestRenderPane::fileNameIsCleaned()
@@ -264,9 +238,10 @@ void TestRenderPane::formatsInTheirOrder()
     for (int i = 0; QQuickItem *button = w->choice("renderFormat", i); ++i)
         shown.append(button->property("text").toString() + '|' + button->property("icon").toString() + '|'
                      + button->property("toolTip").toString());
-    QCOMPARE(shown, (QStringList{"AVI||", "OGV||HTML5 Video - OGG/OGV video format",
-                                 "WebM||HTML5 Video - WebM video format", "MKV||Matroska Multimedia Container",
-                                 "|svgicons/cinema.svg|No compression, large file"}));
+    QCOMPARE(shown,
+             (QStringList{"AVI||", "OGV||HTML5 Video - OGG/OGV video format",
+                          "WebM||HTML5 Video - WebM video format", "MKV||Matroska Multimedia Container",
+                          "|svgicons/cinema.svg|No compression, large file"}));
 }
 
 void TestRenderPane::formatIsChosen_data()
@@ -329,7 +304,8 @@ void TestRenderPane::policyIsChosen_data()
         << static_cast<int>(Zum::ExportPolicyCroppedAndResized) << "svgicons/cut-n-scale.svg";
     QTest::newRow("Fit by width") << static_cast<int>(Zum::ExportPolicyFitByWidth) << "svgicons/width.svg";
     QTest::newRow("Fit by height") << static_cast<int>(Zum::ExportPolicyFitByHeight) << "svgicons/height.svg";
-    QTest::newRow("Crop to 1280x720") << static_cast<int>(Zum::ExportPolicyCropped) << "svgicons/cutframe.svg";
+    QTest::newRow("Crop to 1280x720")
+        << static_cast<int>(Zum::ExportPolicyCropped) << "svgicons/cutframe.svg";
 }
 
 void TestRenderPane::policyIsChosen()
@@ -486,216 +462,6 @@ void TestRenderPane::effectsDialogOpens()
     w->click("openEffects");
     QCOMPARE(w->dialogFile(), "VideoEffectsDialog.qml");
     QVERIFY(w->part("effects"));
-}
-
-void TestRenderPane::everySummary_data()
-{
-    QTest::addColumn<int>("policy");
-    QTest::addColumn<int>("switches");
-    QTest::addColumn<QString>("summary");
-    const QStringList policies{"1280x720, crop", "1280x720, scale", "1280x720, scale",
-                               "1920x1080, crop & scale"};
-    for (int policy = 0; policy < 4; ++policy) {
-        for (int switches = 0; switches < 8; ++switches) {
-            const QString text = "WEBM " + policies.at(policy) + (switches & 1 ? ", filters" : "")
-                                 + (switches & 2 ? ", timecode" : "") + (switches & 4 ? ", effects" : "");
-            QTest::newRow(qPrintable(text + QString::number(policy))) << policy << switches << text;
-        }
-    }
-}
-
-void TestRenderPane::everySummary()
-{
-    QFETCH(int, policy);
-    QFETCH(int, switches);
-    QFETCH(QString, summary);
-    w->global().setRenderFormatNameStr("webm");
-    w->global().setVideoExportPolicy(policy);
-    w->global().setPostProcessing((switches & 1) != 0 ? Zum::NonRealtimeProcessing : Zum::NoProcessing);
-    w->global().setRenderTimecode((switches & 2) != 0);
-    w->global().setVideoEffectsString((switches & 4) != 0 ? "cas=strength=40" : "");
-    QCOMPARE(w->global().videoRenderSettsStr(), summary);
-    QCOMPARE(w->textOf("renderSummary"), summary);
-    QCOMPARE(strings()->property("videoExpStr").toString(), summary);
-}
-
-void TestRenderPane::sequenceSummary_data()
-{
-    QTest::addColumn<int>("format");
-    QTest::addColumn<int>("policy");
-    QTest::addColumn<QString>("summary");
-    const QStringList formats{"PNG", "JPG", "TIFF", "WEBP", "BMP"};
-    for (int format = 0; format < formats.size(); ++format) {
-        QTest::newRow(qPrintable(formats.at(format)))
-            << format << 0 << formats.at(format) + " 1280x720, crop, filters, timecode";
-        QTest::newRow(qPrintable(formats.at(format) + " scaled"))
-            << format << 3 << formats.at(format) + " 640x360, crop & scale, filters, timecode";
-    }
-}
-
-void TestRenderPane::sequenceSummary()
-{
-    QFETCH(int, format);
-    QFETCH(int, policy);
-    QFETCH(QString, summary);
-    w->global().setExportPicFormat(format);
-    w->global().setVideoExportPolicy(policy);
-    w->global().setSequenceExportSizeW(640);
-    w->global().setSequenceExportSizeH(360);
-    w->global().setPostProcessing(Zum::NonRealtimeProcessing);
-    w->global().setRenderTimecode(true);
-    w->global().setVideoEffectsString("cas=strength=40");
-    QCOMPARE(strings()->property("sequeExpStr").toString(), summary);
-}
-
-void TestRenderPane::startNeedsARange()
-{
-    QVERIFY(w->part("startRender")->property("usable").toBool());
-    w->frames().setTimelineRangeEnd(0);
-    QVERIFY(!w->part("startRender")->property("usable").toBool());
-    w->frames().setTimelineRangeEnd(1);
-    QVERIFY(w->part("startRender")->property("usable").toBool());
-}
-
-void TestRenderPane::startNeedsAFreeWorker()
-{
-    RobotSupervisor &robot = w->shell().controllers().robot;
-    robot.setMorvaRobotThreadStarted(true);
-    QVERIFY(!w->part("startRender")->property("usable").toBool());
-    robot.setMorvaRobotThreadStarted(false);
-    QVERIFY(w->part("startRender")->property("usable").toBool());
-}
-
-void TestRenderPane::problemsAreNamed_data()
-{
-    QTest::addColumn<QSize>("crop");
-    QTest::addColumn<int>("policy");
-    QTest::addColumn<int>("rangeEnd");
-    QTest::addColumn<QString>("problem");
-    const int crop = Zum::ExportPolicyCropped;
-    const int scale = Zum::ExportPolicyCroppedAndResized;
-    QTest::newRow("none") << QSize(1280, 720) << crop << 11 << "";
-    QTest::newRow("no range") << QSize(1280, 720) << crop << 0
-                              << "Nothing to render: the range needs two frames or more";
-    QTest::newRow("too narrow") << QSize(312, 720) << crop << 11 << "Minimum frame size is 320x280";
-    QTest::newRow("too low") << QSize(1280, 272) << crop << 11 << "Minimum frame size is 320x280";
-    QTest::newRow("the least there may be") << QSize(320, 280) << crop << 11 << "";
-    QTest::newRow("no multiple of 8") << QSize(1000, 562) << crop << 11 << "Size must be a multiple of 8";
-    QTest::newRow("no multiple of 8, scaled") << QSize(1000, 562) << scale << 11 << "";
-}
-
-void TestRenderPane::problemsAreNamed()
-{
-    QFETCH(QSize, crop);
-    QFETCH(int, policy);
-    QFETCH(int, rangeEnd);
-    QFETCH(QString, problem);
-    w->global().setVideoExportPolicy(policy);
-    w->global().setCropAreaW(crop.width());
-    w->global().setCropAreaH(crop.height());
-    w->frames().setTimelineRangeEnd(rangeEnd);
-    QCOMPARE(w->textOf("renderProblem"), problem);
-}
-
-void TestRenderPane::tabsAreBlockedDuringAnExport_data()
-{
-    QTest::addColumn<int>("job");
-    QTest::addColumn<bool>("blocked");
-    QTest::newRow("rendering") << static_cast<int>(Zum::RenderVideo) << true;
-    QTest::newRow("exporting frames") << static_cast<int>(Zum::ExportFrames) << true;
-    QTest::newRow("importing pictures") << static_cast<int>(Zum::GenThumbnails) << false;
-    QTest::newRow("no job") << static_cast<int>(Zum::NoJob) << false;
-}
-
-void TestRenderPane::tabsAreBlockedDuringAnExport()
-{
-    QFETCH(int, job);
-    QFETCH(bool, blocked);
-    w->shell().controllers().robot.setCurrentRobotJob(job);
-    w->clickText("Capture");
-    QCOMPARE(w->global().mainTabsState(), blocked ? "timingUIisOn" : "captureUIisOn");
-    w->global().setMainTabsState("timingUIisOn");
-    w->shell().controllers().robot.setCurrentRobotJob(Zum::NoJob);
-}
-
-void TestRenderPane::folderOfMoviesIsShown()
-{
-    QFile::remove(w->window().videoDirPath());
-    w->clickText("Timing");
-    QQuickItem *button = w->shell().findItem("toolTip", "Show the folder of the movies");
-    w->click(button);
-    QCOMPARE(w->shell().desktop().shown.last(), w->window().videoDirPath());
-    const QString movie = w->window().videoDirPath() + "videotest.avi";
-    QFile file(movie);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    w->global().setLastRenderedPath(movie);
-    w->click(button);
-    QCOMPARE(w->shell().desktop().shown.last(), movie);
-    w->global().setLastRenderedPath({});
-}
-
-void TestRenderPane::frameInfoFollowsTheCurrentFrame()
-{
-    w->frames().setStartIndex(100);
-    w->frames().setCurrentIndex(5);
-    QVERIFY(w->text("Number: 105"));
-    QVERIFY(w->text("Captured: frame_5.jpg"));
-    QVERIFY(w->text("Reference: none"));
-    w->frames().setTimelineFps(5);
-    w->frames().setCurrentIndex(10);
-    QVERIFY(w->text("Time: 00.00.02"));
-    w->frames().setStartIndex(0);
-    w->frames().setTimelineFps(25);
-}
-
-void TestRenderPane::frameInfoTellsTheState()
-{
-    QVERIFY(!w->text("hidden, not in the movie; mirrored"));
-    w->frames().modifyFrame({{"hidden", true}, {"mirrored", true}}, 0);
-    QTRY_VERIFY(w->text("hidden, not in the movie; mirrored"));
-    w->frames().modifyFrame({{"hidden", false}, {"mirrored", false}}, 0);
-    QTRY_VERIFY(!w->text("hidden, not in the movie; mirrored"));
-}
-
-QList<QQuickItem *> TestRenderPane::tabStops() const
-{
-    QList<QQuickItem *> stops;
-    visitShown(pane(), [&](QQuickItem *item) {
-        if (item->activeFocusOnTab() && item->isEnabled())
-            stops.append(item);
-    });
-    return stops;
-}
-
-void TestRenderPane::everyControlIsReachedByTheKeyboard()
-{
-    const QList<QQuickItem *> stops = tabStops();
-    QVERIFY(stops.size() > 12);
-    QQuickItem *item = stops.first();
-    QList<QQuickItem *> reached;
-    for (int i = 0; i < 80 && !reached.contains(item); ++i) {
-        reached.append(item);
-        item = item->nextItemInFocusChain();
-    }
-    for (QQuickItem *stop : stops) {
-        QVERIFY(reached.contains(stop));
-        stop->forceActiveFocus(Qt::TabFocusReason);
-        QVERIFY(w->shell().settle());
-        const QRectF area = stop->mapRectToItem(pane(), stop->boundingRect());
-        QVERIFY2(area.top() >= 0 && area.bottom() <= pane()->height() + 1, qPrintable(stop->objectName()));
-    }
-}
-
-void TestRenderPane::everyControlHasAToolTipAndAName()
-{
-    const QList<QQuickItem *> stops = tabStops();
-    for (QQuickItem *stop : stops) {
-        QString tip;
-        for (QQuickItem *above = stop; above != pane() && tip.isEmpty(); above = above->parentItem())
-            tip = above->property("toolTip").toString() + above->property("label").toString();
-        const bool scrolls = QByteArray(stop->metaObject()->className()).startsWith("Scrollbar");
-        QVERIFY2(!tip.isEmpty() || scrolls, stop->metaObject()->className());
-    }
 }
 
 QTEST_MAIN(TestRenderPane)

@@ -100,8 +100,8 @@ void TestVideoEffectsDialog::offersTheCatalogue()
     QStringList offered;
     for (int i = 0; QQuickItem *button = w->choice("effects", i); ++i)
         offered.append(button->property("text").toString());
-    QCOMPARE(offered, (QStringList{"No Effect", "Normalize", "Colorize", "Antiflicker", "Sharpen", "Average Blur",
-                                   "Gaussian Blur", "Spatial Smoothing"}));
+    QCOMPARE(offered, (QStringList{"No Effect", "Normalize", "Colorize", "Antiflicker", "Sharpen",
+                                   "Average Blur", "Gaussian Blur", "Spatial Smoothing"}));
     QVERIFY(w->choice("effects", 0)->property("toggled").toBool());
 }
 
@@ -109,9 +109,10 @@ void TestVideoEffectsDialog::choosingTakesTheDefaults_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("effect");
-    QTest::newRow("Normalize") << 1
-                               << "normalize=blackpt=000000:independence=1.0:smoothing=2:strength=1.0:whitept="
-                                  "ffffff";
+    QTest::newRow("Normalize")
+        << 1
+        << "normalize=blackpt=000000:independence=1.0:smoothing=2:strength=1.0:whitept="
+           "ffffff";
     QTest::newRow("Colorize") << 2 << "colorize=hue=200:lightness=0.5:mix=1.0:saturation=0.5";
     QTest::newRow("Antiflicker") << 3 << "deflicker=mode=am:size=2";
     QTest::newRow("Sharpen") << 4 << "cas=strength=1";
@@ -151,16 +152,26 @@ void TestVideoEffectsDialog::controlOfEachValue_data()
     QTest::addColumn<double>("minimum");
     QTest::addColumn<double>("maximum");
     QTest::addColumn<bool>("color");
-    QTest::newRow("a grey") << "normalize=blackpt=000000" << "blackpt" << true << 0.0 << 255.0 << true;
-    QTest::newRow("a hue") << "colorize=hue=200" << "hue" << true << 0.0 << 360.0 << true;
-    QTest::newRow("strength") << "cas=strength=1" << "strength" << true << 1.0 << 100.0 << false;
-    QTest::newRow("radius") << "avgblur=sizeX=1" << "sizeX" << true << 1.0 << 50.0 << false;
-    QTest::newRow("steps") << "gblur=sigma=0.5" << "steps" << true << 1.0 << 10.0 << false;
-    QTest::newRow("spatial weight") << "bilateral=sigmaR=0" << "sigmaS" << true << 0.0 << 1000.0 << false;
-    QTest::newRow("range weight") << "bilateral=sigmaR=0" << "sigmaR" << true << 0.0 << 100.0 << false;
-    QTest::newRow("frames") << "deflicker=size=2" << "size" << false << 0.0 << 0.0 << false;
-    QTest::newRow("mode") << "deflicker=size=2" << "mode" << false << 0.0 << 0.0 << false;
-    QTest::newRow("tenths") << "gblur=sigma=0.5" << "sigma" << false << 0.0 << 0.0 << false;
+    QTest::newRow("a grey") << "normalize=blackpt=000000"
+                            << "blackpt" << true << 0.0 << 255.0 << true;
+    QTest::newRow("a hue") << "colorize=hue=200"
+                           << "hue" << true << 0.0 << 360.0 << true;
+    QTest::newRow("strength") << "cas=strength=1"
+                              << "strength" << true << 1.0 << 100.0 << false;
+    QTest::newRow("radius") << "avgblur=sizeX=1"
+                            << "sizeX" << true << 1.0 << 50.0 << false;
+    QTest::newRow("steps") << "gblur=sigma=0.5"
+                           << "steps" << true << 1.0 << 10.0 << false;
+    QTest::newRow("spatial weight") << "bilateral=sigmaR=0"
+                                    << "sigmaS" << true << 0.0 << 1000.0 << false;
+    QTest::newRow("range weight") << "bilateral=sigmaR=0"
+                                  << "sigmaR" << true << 0.0 << 100.0 << false;
+    QTest::newRow("frames") << "deflicker=size=2"
+                            << "size" << false << 0.0 << 0.0 << false;
+    QTest::newRow("mode") << "deflicker=size=2"
+                          << "mode" << false << 0.0 << 0.0 << false;
+    QTest::newRow("tenths") << "gblur=sigma=0.5"
+                            << "sigma" << false << 0.0 << 0.0 << false;
 }
 
 void TestVideoEffectsDialog::controlOfEachValue()
@@ -186,14 +197,18 @@ void TestVideoEffectsDialog::sliderChangesItsValue_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<int>("value");
     QTest::addColumn<QString>("changed");
-    QTest::newRow("strength") << "cas=strength=1" << "strength" << 60 << "cas=strength=60";
-    QTest::newRow("radius") << "avgblur=sizeX=1" << "sizeX" << 9 << "avgblur=sizeX=9";
-    QTest::newRow("hue") << "colorize=hue=200:lightness=0.5:mix=1.0:saturation=0.5" << "hue" << 0
-                         << "colorize=hue=0:lightness=0.5:mix=1.0:saturation=0.5";
-    QTest::newRow("weight") << "bilateral=sigmaR=5:sigmaS=5" << "sigmaS" << 1000
-                            << "bilateral=sigmaR=5:sigmaS=1000";
-    QTest::newRow("grey") << "normalize=blackpt=000000:whitept=ffffff" << "blackpt" << 16
-                          << "normalize=blackpt=101010:independence=1.0:smoothing=2:strength=1.0:whitept=ffffff";
+    QTest::newRow("strength") << "cas=strength=1"
+                              << "strength" << 60 << "cas=strength=60";
+    QTest::newRow("radius") << "avgblur=sizeX=1"
+                            << "sizeX" << 9 << "avgblur=sizeX=9";
+    QTest::newRow("hue") << "colorize=hue=200:lightness=0.5:mix=1.0:saturation=0.5"
+                         << "hue" << 0 << "colorize=hue=0:lightness=0.5:mix=1.0:saturation=0.5";
+    QTest::newRow("weight") << "bilateral=sigmaR=5:sigmaS=5"
+                            << "sigmaS" << 1000 << "bilateral=sigmaR=5:sigmaS=1000";
+    QTest::newRow("grey")
+        << "normalize=blackpt=000000:whitept=ffffff"
+        << "blackpt" << 16
+        << "normalize=blackpt=101010:independence=1.0:smoothing=2:strength=1.0:whitept=ffffff";
 }
 
 void TestVideoEffectsDialog::sliderChangesItsValue()
@@ -235,7 +250,8 @@ void TestVideoEffectsDialog::listChangesItsValue()
 
 void TestVideoEffectsDialog::otherValuesStayAsTheyAre()
 {
-    const QString before = "normalize=blackpt=101010:independence=0.3:smoothing=8:strength=0.7:whitept=c0c0c0";
+    const QString before =
+        "normalize=blackpt=101010:independence=0.3:smoothing=8:strength=0.7:whitept=c0c0c0";
     open(before);
     QMetaObject::invokeMethod(sliderOf("blackpt"), "moved", Q_ARG(double, 32.0));
     QCOMPARE(w->global().videoEffectsString(), QString(before).replace("101010", "202020"));
@@ -308,7 +324,8 @@ void TestVideoEffectsDialog::openingChangesNothing_data()
 {
     QTest::addColumn<QString>("effect");
     QTest::newRow("none") << "";
-    QTest::newRow("whole") << "normalize=blackpt=101010:independence=0.3:smoothing=8:strength=0.7:whitept=c0c0c0";
+    QTest::newRow("whole")
+        << "normalize=blackpt=101010:independence=0.3:smoothing=8:strength=0.7:whitept=c0c0c0";
     QTest::newRow("out of its limits") << "cas=strength=400";
     QTest::newRow("unknown") << "hue=s=0";
 }
