@@ -61,6 +61,11 @@ Item {
             MainWindow.clearClipboardFrames();
         }
 
+        function onLastRenderedPathChanged() {
+            if (MainWindow.fileExists(WebcamGlobal.lastRenderedPath))
+                WebcamGlobal.playerSource = WebcamGlobal.lastRenderedPath;
+        }
+
         function onReloadCapturingDevice() {
             connections.scene.reloadCapturingDevice();
         }
@@ -103,11 +108,6 @@ Item {
 
         function onShowProjectPresets() {
             connections.scene.projectPresetsBox();
-        }
-
-        function onLastRenderedPathChanged() {
-            if (MainWindow.fileExists(WebcamGlobal.lastRenderedPath))
-                WebcamGlobal.playerSource = WebcamGlobal.lastRenderedPath;
         }
 
         function onKey_Backspace() {

@@ -233,7 +233,7 @@ std::optional<RenderInput> readProject(const Request &request, QString &error)
     global.setRenderFormatNameStr(request.format);
     global.setRenderQmax(request.quality);
 
-    RenderInput input = RenderInput::take(global, frames, tree.projDirPath);
+    RenderInput input = RenderInput::take(global, frames, tree.projContntDirPath);
     input.rangeStart = rows->first;
     input.rangeEnd = rows->second;
     input.frameCount = static_cast<int>(result.document.frames.size());
@@ -259,7 +259,7 @@ int run(const Request &request, const RobotTools &tools, QTextStream &out, QText
     }
 
     const ProjectTree tree = ProjectTree::of(QFileInfo(request.projectPath).absoluteFilePath(), {});
-    MorvaRobot robot(Zum::RenderVideo, Zum::NoTarget, tree.projDirPath, tree.projName, tools);
+    MorvaRobot robot(Zum::RenderVideo, Zum::NoTarget, tree.projContntDirPath, tree.projName, tools);
     QString movie;
     ProgressLines progress(out, static_cast<int>(wanted));
     QObject::connect(&robot, &MorvaRobot::errorStringChanged, &robot,

@@ -39,7 +39,7 @@ void MorvaRobot::renderVideo(WebcamGlobal *global, FramesModel *kadry)
     m_encoder = m_tools.makeEncoder(input.formatName);
     openJob(Zum::RenderVideo, input.rangeSize(), input.fileName);
     if (!morvane::ensureFolder(input.videoFolder)) {
-        report(QStringLiteral("Cannot cteate dir %1").arg(input.videoFolder));
+        report(tr("Cannot cteate dir %1").arg(input.videoFolder));
         closeJob();
         return;
     }
@@ -61,22 +61,22 @@ bool MorvaRobot::validate(const RenderInput &input)
     bool good = true;
     if (input.cropSize.width() < morvane::exportVideoMinFrameWidth
         || input.cropSize.height() < morvane::exportVideoMinFrameHeight) {
-        report(QStringLiteral("Frame size: %1x%2").arg(input.cropSize.width()).arg(input.cropSize.height()));
-        report(QStringLiteral("Minimum frame size is %1x%2")
+        report(tr("Frame size: %1x%2").arg(input.cropSize.width()).arg(input.cropSize.height()));
+        report(tr("Minimum frame size is %1x%2")
                    .arg(morvane::exportVideoMinFrameWidth)
                    .arg(morvane::exportVideoMinFrameHeight));
         good = false;
     }
     if (!(input.fps > 0)) {
-        report(QStringLiteral("FPS is too low"));
+        report(tr("FPS is too low"));
         good = false;
     }
     if (input.bitrate < minimumBitrate) {
-        report(QStringLiteral("Bitrate is too low"));
+        report(tr("Bitrate is too low"));
         good = false;
     }
     if (good && !m_encoder) {
-        report(QStringLiteral("No Encoder"));
+        report(tr("No Encoder"));
         good = false;
     }
     return good;
@@ -102,12 +102,12 @@ bool MorvaRobot::createMovie(const RenderInput &input)
     if (m_encoder->isOk() && ok.typeId() == QMetaType::Bool && ok.toBool())
         return true;
     if (!m_encoder->isOk())
-        report(QStringLiteral("Error initializing"));
+        report(tr("Error initializing"));
     const QVariant reason = result.value(QStringLiteral("reason"));
     if (reason.typeId() == QMetaType::QString)
-        report(QStringLiteral("Encoder error: %1").arg(reason.toString()));
+        report(tr("Encoder error: %1").arg(reason.toString()));
     else
-        report(QStringLiteral("Got an error from encoder, but with no reason"));
+        report(tr("Got an error from encoder, but with no reason"));
     return false;
 }
 
@@ -140,7 +140,7 @@ void MorvaRobot::processFrames(const RenderInput &input)
     }
     m_finished = m_index > input.rangeEnd;
     if (m_index < input.rangeEnd)
-        report(QStringLiteral("Processing image. Robot interrupted"));
+        report(tr("Processing image. Robot interrupted"));
 }
 
 bool MorvaRobot::takePicture(const FramePicture &picture)
@@ -152,7 +152,7 @@ bool MorvaRobot::takePicture(const FramePicture &picture)
     if (picture.outcome == FramePicture::Outcome::Lost)
         return false;
     if (m_encoder->encodeImage(picture.image) < 0) {
-        report(QStringLiteral("Error creating video"));
+        report(tr("Error creating video"));
         return false;
     }
     ++m_writtenCount;

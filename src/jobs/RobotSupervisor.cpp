@@ -34,7 +34,7 @@ RobotSupervisor::RobotSupervisor(RobotServices services, QObject *parent)
 
 RobotSupervisor::~RobotSupervisor()
 {
-    // Not by the signal: whoever hears it goes at the same time.
+    // Not by the signal: those who listen may be gone already.
     if (m_robot != nullptr)
         m_robot->stop();
     endThread();

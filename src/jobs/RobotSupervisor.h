@@ -19,7 +19,7 @@ class WebcamGlobal;
 struct RobotProject
 {
     bool loaded = false;
-    /// With a trailing "/".
+    /// The folder of what belongs to the project, with a trailing "/".
     QString dirPath;
     QString name;
 };

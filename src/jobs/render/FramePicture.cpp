@@ -21,13 +21,18 @@ QStringList addMargins(QImage &image, const QSize &size, int index)
 {
     QImage whole(size, QImage::Format_ARGB32);
     if (whole.isNull())
-        return {QStringLiteral("Failed to create image of size %1x%2").arg(size.width()).arg(size.height())};
+        return {words(QT_TRANSLATE_NOOP("MorvaRobot", "Failed to create image of size %1x%2"))
+                    .arg(size.width())
+                    .arg(size.height())};
     QStringList reports;
     const int x = (size.width() - image.width()) / 2;
     const int y = (size.height() - image.height()) / 2;
     if (y > 0 || x > 0)
         reports.append(
-            QStringLiteral("Image #%1: Margins added (top: %2px, left: %3px)").arg(index).arg(y).arg(x));
+            words(QT_TRANSLATE_NOOP("MorvaRobot", "Image #%1: Margins added (top: %2px, left: %3px)"))
+                .arg(index)
+                .arg(y)
+                .arg(x));
     whole.fill(Qt::transparent);
     QPainter painter(&whole);
     painter.drawImage(x, y, image);
@@ -63,7 +68,7 @@ FramePicture FramePictureMaker::make(int index, int handled) const
     FramePicture picture;
     if (!picture.image.load(frame.path)) {
         picture.outcome = FramePicture::Outcome::Skipped;
-        picture.reports.append(QStringLiteral("Cannot load %1. Skipping image").arg(frame.path));
+        picture.reports.append(tr("Cannot load %1. Skipping image").arg(frame.path));
         return picture;
     }
     picture.image.convertTo(QImage::Format_ARGB32);
@@ -125,7 +130,7 @@ void FramePictureMaker::drawTimecode(FramePicture &picture, int handled) const
     const QRect band(QPoint(0, size.height() - bandBoxes * boxHeight),
                      QPoint(size.width() - 1, size.height() - 1));
     if (band.bottom() < band.top() || band.right() < 0) {
-        picture.reports.append(QStringLiteral("Error drawing timecode"));
+        picture.reports.append(tr("Error drawing timecode"));
         return;
     }
     QPainter painter(&picture.image);
