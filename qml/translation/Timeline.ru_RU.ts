@@ -31,7 +31,7 @@
     </message>
     <message>
         <source>First frame of the range</source>
-        <translation>Первый кадр диапазона</translation>
+        <translation>Начало диапазона</translation>
     </message>
     <message>
         <source>In memory: %1 %</source>
@@ -39,7 +39,7 @@
     </message>
     <message>
         <source>Last frame of the range</source>
-        <translation>Последний кадр диапазона</translation>
+        <translation>Конец диапазона</translation>
     </message>
 </context>
 <context>
