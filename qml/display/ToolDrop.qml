@@ -44,6 +44,7 @@ IconButton {
         id: panel
 
         owner: tool
+        beside: true
         contentWidth: tool.bodyWidth
         contentHeight: column.implicitHeight
 
