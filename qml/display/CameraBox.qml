@@ -6,8 +6,6 @@ import Zum 1.0
 Item {
     id: cameraBox
 
-    // File of the window of the capturing device; without one there is no live picture.
-    property string source: ""
     property bool running: false
     property real zoom: 1
     readonly property string state_: WebcamGlobal.camboxState
@@ -16,6 +14,8 @@ Item {
     readonly property bool onReference: state_ === "referencePreviewIsOn"
     readonly property bool framesRun: running && MainWindow.projectLoaded && !FramesModel.playing
     readonly property alias live: liveLayer
+    // Where the capturing device's item belongs.
+    readonly property alias livePlace: captureWindow
     readonly property alias captured: bigCapturedPicBox
     readonly property alias reference: bigReferencePicBox
     readonly property alias stack: onionSkin
@@ -125,11 +125,17 @@ Item {
             color: "black"
         }
 
-        Loader {
+        Item {
             id: captureWindow
 
             anchors.fill: parent
-            source: cameraBox.source
+        }
+
+        BlendEffect {
+            anchors.fill: parent
+            source: captureWindow
+            grayscale: WebcamGlobal.grayscale
+            zoom: cameraBox.zoom
         }
     }
 

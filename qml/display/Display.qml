@@ -15,6 +15,22 @@ Item {
     readonly property real roomWidth: flicker.width
     readonly property real roomHeight: flicker.height
 
+    function showOrHideBar() {
+        rules.rightClick();
+        disconnector.shown = !disconnector.shown && WebcamGlobal.connected;
+    }
+
+    Component.onCompleted: scene.liveViewPlace = layers.livePlace
+
+    Connections {
+        target: MainWindow.capturingDeviceObject
+        ignoreUnknownSignals: true
+
+        function onRightClick() {
+            display.showOrHideBar();
+        }
+    }
+
     Rectangle {
         anchors.fill: flicker
         color: Theme.well
@@ -32,10 +48,7 @@ Item {
         zoom: WebcamGlobal.camScaleFactor
         leftButtonMoves: !WebcamGlobal.eyedropperOn && !WebcamGlobal.maskToolOn && WebcamGlobal.flickInteractive
         onZoomWanted: zoom => WebcamGlobal.camScaleFactor = zoom
-        onRightClicked: {
-            display.rules.rightClick();
-            disconnector.shown = !disconnector.shown && WebcamGlobal.connected;
-        }
+        onRightClicked: display.showOrHideBar()
 
         CameraBox {
             id: layers
@@ -65,7 +78,41 @@ Item {
         visible: FramesModel.framesCount === 0 && !WebcamGlobal.connected
         icon: "svgicons/image.svg"
         title: MainWindow.projName
-        text: qsTr("The project is ready. This version cannot connect a camera yet.")
+        text: qsTr("The project is ready. Connect a camera, pose the puppet and press Enter for each frame.")
+
+        TextButton {
+            objectName: "connectFirst"
+            text: qsTr("Connect")
+            icon: "svgicons/connect.svg"
+            toolTip: qsTr("Connect %1").arg(WebcamGlobal.cameraName) + " [F5]"
+            active: !WebcamGlobal.busy
+            onClicked: WebcamGlobal.capturingDeviceConnect()
+        }
+    }
+
+    DisplayOverlay {
+        anchors.fill: flicker
+    }
+
+    // Why the tab of the live picture shows a frame.
+    Rectangle {
+        anchors.left: flicker.left
+        anchors.bottom: flicker.bottom
+        anchors.margins: Theme.spacing
+        width: noCamera.implicitWidth + 2 * Theme.spacing
+        height: noCamera.implicitHeight + 2 * DefFontSizePico
+        visible: !WebcamGlobal.connected && WebcamGlobal.camboxState === "liveViewPreviewIsOn"
+                 && FramesModel.framesCount > 0 && 2 * width < flicker.width && 4 * height < flicker.height
+        radius: Theme.corner
+        color: "#99000000"
+
+        TextLabel {
+            id: noCamera
+
+            anchors.centerIn: parent
+            text: qsTr("No camera: the captured frame shows")
+            small: true
+        }
     }
 
     SimpleDisplayDisconnector {

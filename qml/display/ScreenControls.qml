@@ -80,7 +80,7 @@ Rectangle {
                 toolTip: qsTr("Flip-flop: blinks the frame against the live picture")
                 toggled: WebcamGlobal.flipFlop !== Zum.NoFlipFlop
 
-                FlipFlopTool {}
+                FlipFlop {}
             }
 
             ToolDrop {

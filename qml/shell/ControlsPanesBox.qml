@@ -1,4 +1,5 @@
 import QtQuick
+import Zum 1.0
 
 // The panel of the tab, at the right.
 Rectangle {
@@ -6,6 +7,11 @@ Rectangle {
 
     required property var scene
     property bool shown: true
+    readonly property bool captures: WebcamGlobal.currentActiveTab === Zum.CaptureTab
+    readonly property bool renders: WebcamGlobal.currentActiveTab === Zum.TimingTab
+    // What one shoots and renders with never scrolls away, unless the window is too low for it.
+    readonly property bool roomyToShoot: height > 40 * DefFontSizeNormal
+    readonly property bool roomyToRender: height > 24 * DefFontSizeNormal
 
     // Without a project there is nothing to set.
     width: shown && MainWindow.projectLoaded ? Math.min(ControlsPanesBoxW, parent.width * 0.36) : 0
@@ -15,24 +21,96 @@ Rectangle {
     Flickable {
         id: flick
 
-        anchors.fill: parent
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.bottom: bottom.top
         anchors.margins: DefFontSizeMicro
-        contentHeight: pane.item ? pane.item.height : 0
+        contentHeight: panes.height
         boundsBehavior: Flickable.StopAtBounds
         clip: true
 
-        Loader {
-            id: pane
+        Column {
+            id: panes
 
             width: flick.width - DefFontSizeMicro
-            active: MainWindow.projectLoaded
-            sourceComponent: ProjectPane {
-                scene: controlsPanesBox.scene
+            spacing: DefFontSizeMicro
+
+            Loader {
+                width: parent.width
+                active: MainWindow.projectLoaded
+                visible: controlsPanesBox.captures
+                sourceComponent: CaptureControlsPane {
+                    tabsPlace: controlsPanesBox.roomyToShoot ? shootingPlace : null
+                }
+            }
+
+            // Made when it is first shown.
+            Loader {
+                property bool wanted: false
+
+                width: parent.width
+                active: MainWindow.projectLoaded && wanted
+                visible: controlsPanesBox.renders
+                onVisibleChanged: wanted = wanted || visible
+                sourceComponent: RenderPane {
+                    scene: controlsPanesBox.scene
+                    footPlace: controlsPanesBox.roomyToRender ? renderingPlace : null
+                }
+            }
+
+            Loader {
+                width: parent.width
+                active: MainWindow.projectLoaded
+                sourceComponent: ProjectPane {
+                    scene: controlsPanesBox.scene
+                }
             }
         }
     }
 
+    Item {
+        id: bottom
+
+        readonly property real content: (shootingPlace.visible ? shootingPlace.height : 0)
+                                        + (renderingPlace.visible ? renderingPlace.height : 0)
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.leftMargin: DefFontSizeMicro
+        anchors.rightMargin: 2 * DefFontSizeMicro
+        height: content > 0 ? content + DefFontSizeMicro : 0
+
+        Column {
+            id: shootingPlace
+
+            width: parent.width
+            visible: controlsPanesBox.captures
+
+            CaptureButton {
+                width: parent.width
+                visible: !controlsPanesBox.roomyToShoot
+            }
+        }
+
+        Column {
+            id: renderingPlace
+
+            width: parent.width
+            visible: controlsPanesBox.renders
+        }
+    }
+
+    FocusReveal {
+        flickable: flick
+        bar: bar
+        holder: panes
+    }
+
     Scrollbar {
+        id: bar
+
         anchors.right: parent.right
         anchors.top: flick.top
         anchors.bottom: flick.bottom

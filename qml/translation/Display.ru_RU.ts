@@ -4,8 +4,20 @@
 <context>
     <name>Display</name>
     <message>
-        <source>The project is ready. This version cannot connect a camera yet.</source>
-        <translation>Проект готов. Подключать камеру эта версия пока не умеет.</translation>
+        <source>Connect %1</source>
+        <translation>Подключить: %1</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Подключить</translation>
+    </message>
+    <message>
+        <source>No camera: the captured frame shows</source>
+        <translation>Нет камеры: показан снятый кадр</translation>
+    </message>
+    <message>
+        <source>The project is ready. Connect a camera, pose the puppet and press Enter for each frame.</source>
+        <translation>Проект готов. Подключите камеру, поставьте куклу в позу и нажимайте Enter для каждого кадра.</translation>
     </message>
 </context>
 <context>

@@ -103,7 +103,7 @@
     </message>
     <message>
         <source>Whole timeline</source>
-        <translation>Вся лента</translation>
+        <translation>Вся линейка</translation>
     </message>
 </context>
 </TS>

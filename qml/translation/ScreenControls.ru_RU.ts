@@ -13,37 +13,6 @@
     </message>
 </context>
 <context>
-    <name>FlipFlopTool</name>
-    <message>
-        <source>Duration</source>
-        <translation>Время</translation>
-    </message>
-    <message>
-        <source>Fade</source>
-        <translation>Плавно</translation>
-    </message>
-    <message>
-        <source>Flash</source>
-        <translation>Мигать</translation>
-    </message>
-    <message>
-        <source>Flip-flop</source>
-        <translation>Мигание</translation>
-    </message>
-    <message>
-        <source>How long the frame takes to come, and to go</source>
-        <translation>За какое время кадр появляется и исчезает</translation>
-    </message>
-    <message>
-        <source>Off</source>
-        <translation>Нет</translation>
-    </message>
-    <message>
-        <source>sec.</source>
-        <translation>сек.</translation>
-    </message>
-</context>
-<context>
     <name>OnionskinTool</name>
     <message>
         <source>Frames after</source>

@@ -7,5 +7,9 @@
         <source>Disconnect Camera</source>
         <translation>Отключить камеру</translation>
     </message>
+    <message>
+        <source>Disconnect device</source>
+        <translation>Отключить устройство</translation>
+    </message>
 </context>
 </TS>

@@ -12,4 +12,31 @@
         <translation>Устройство FireWire</translation>
     </message>
 </context>
+<context>
+    <name>WebCameraConnectBox</name>
+    <message>
+        <source>Available devices</source>
+        <translation>Доступные устройства</translation>
+    </message>
+    <message>
+        <source>Click to choose another kind of device</source>
+        <translation>Нажмите, чтобы выбрать другой тип устройства</translation>
+    </message>
+    <message>
+        <source>Connect device</source>
+        <translation>Подключить устройство</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Подключить</translation>
+    </message>
+    <message>
+        <source>Disconnect device</source>
+        <translation>Отключить устройство</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Отключить</translation>
+    </message>
+</context>
 </TS>

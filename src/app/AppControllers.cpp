@@ -3,6 +3,7 @@
 #include "app/MainWindow.h"
 #include "app/WindowQuitHost.h"
 #include "project/BackgroundImage.h"
+#include "shared/TimeText.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -10,6 +11,9 @@
 AppControllers::AppControllers(AppEnvironment given)
     : environment(std::move(given)), windowFlags(startup::windowFlags(settings())),
       locale(settings(), [this] { return environment.systemLocale; }), devices(global),
+      capture(std::move(environment.cameras), settings()), cameras(global, devices, settings()),
+      shots(global, frames, [this] { return timeStamp(); }),
+      timeLapse(global, frames, std::move(environment.timeLapseTicker)), robot(robotServices()),
       recent(settings(), environment.now), paths(settings(), pathHooks(), QDir::homePath()),
       files(*environment.dialogs, settings(), global,
             [this] { return paths.projPath().isEmpty() ? QString() : paths.projDirPath(); }),
@@ -30,6 +34,11 @@ AppControllers::AppControllers(AppEnvironment given)
 }
 
 AppControllers::~AppControllers() = default;
+
+QString AppControllers::timeStamp() const
+{
+    return morvane::timeStamp(environment.now());
+}
 
 ProjectPaths::Hooks AppControllers::pathHooks()
 {
@@ -56,6 +65,13 @@ ProjectServices AppControllers::projectServices()
         robot.setCurrentRobotJob(Zum::NoJob);
     };
     return services;
+}
+
+RobotServices AppControllers::robotServices()
+{
+    return {global, frames, progress, messages, [this] {
+                return RobotProject{lifecycle.projectLoaded(), paths.projContntDirPath(), paths.projName()};
+            }};
 }
 
 void AppControllers::attachWindow(MainWindow &window)

@@ -4,6 +4,8 @@
 #include "app/CursorShapeArea.h"
 #include "app/QNumImput.h"
 #include "app/WheelArea.h"
+#include "capture/OsSpecific.h"
+#include "capture/webcam/WebCamWindow.h"
 #include "preview/Histogram.h"
 #include "preview/QChromaKey.h"
 #include "preview/RamPreview.h"
@@ -30,6 +32,7 @@ void add(const char *name)
 
 void registerTypes()
 {
+    add<WebCamWindow>("WebCamera");
     add<Progress>("Progress");
     add<Histogram>("Histogram");
     add<RamPreview>("CRamPreview");
@@ -44,6 +47,7 @@ void registerTypes()
     add<QChromaKey>("QChromaKey");
     add<RowBand>("RowBand");
     add<TimelineIndicator>("TimelineIndicator");
+    add<OsSpecific>("OsSpecific");
 }
 
 } // namespace typeregistry

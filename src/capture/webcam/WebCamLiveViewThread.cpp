@@ -46,7 +46,12 @@ WebCamLiveViewThread::WebCamLiveViewThread(Setup setup)
     : m_source(std::move(setup.source)), m_clock(std::move(setup.clock)), m_picture(*setup.picture),
       m_window(setup.window), m_display(setup.display),
       m_grabber(*m_source, m_picture, setup.scopes, m_requests,
-                {[this] { postToWindow(WebCamEvent::SizeChanged, {}, 1); },
+                {[this] {
+                     // Pictures of the first tries would have the device connected before a shot can be
+                     // taken.
+                     if (m_connected)
+                         postToWindow(WebCamEvent::SizeChanged, {}, 1);
+                 },
                  [this](const HistoCalc::Channels &channels) {
                      postToWindow(WebCamEvent::HistogramY, toVariants(channels.y));
                      postToWindow(WebCamEvent::HistogramR, toVariants(channels.r));

@@ -255,11 +255,6 @@ void WebCamWindow::connectThread()
     connect(this, &WebCamWindow::availWidthChanged, thread, &WebCamLiveViewThread::setAvailWidth);
     connect(this, &WebCamWindow::availHeightChanged, thread, &WebCamLiveViewThread::setAvailHeight);
     connect(this, &WebCamWindow::powerFactorChanged, thread, &WebCamLiveViewThread::setPowerFactor);
-    connect(thread, &QThread::finished, this, [this, thread] {
-        // One that was freed already has nothing more to tell.
-        if (m_thread.get() == thread)
-            disconnectsContinued();
-    });
     if (!m_global) {
         qDebug("WebCamWindow::init failed to conect to global");
         return;
@@ -305,6 +300,8 @@ void WebCamWindow::captureFrame(const QString &frameExt, const QString &fullPath
     if (m_thread && m_thread->isConnected())
         m_thread->captureFrame(
             {frameExt, fullPath, tumbPath, frameWidth, frameHeight, crop, grayscale, rotate});
+    else
+        emit frameNotSaved();
 }
 
 void WebCamWindow::showSettingsDialog(int show)

@@ -116,7 +116,8 @@ public slots:
     void connects(bool getListOnly);
     void disconnects();
     void calcHistogramData();
-    /// Saves the next grabbed picture. Without a running loop the request is dropped.
+    /// Saves the next grabbed picture. Without a running loop the request is dropped without a word, but for
+    /// frameNotSaved().
     void captureFrame(const QString &frameExt, const QString &fullPath, const QString &tumbPath,
                       int frameWidth, int frameHeight, bool crop, bool grayscale, bool rotate);
     void showSettingsDialog(int show);
