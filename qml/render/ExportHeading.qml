@@ -4,5 +4,7 @@ import QtQuick
 TextLabel {
     width: parent ? parent.width : 0
     dim: true
+    wrapMode: Text.Wrap
+    elide: Text.ElideNone
     Accessible.role: Accessible.Heading
 }

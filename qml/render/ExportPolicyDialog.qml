@@ -3,7 +3,7 @@ import Zum 1.0
 
 // How pictures come to the size of what is exported: a button that names the way chosen, and a panel with the four
 // there are. `policy` belongs to the owner: chosen() only asks for another.
-ButtonDropPanel {
+DialogButton {
     id: dialog
 
     property int policy: Zum.ExportPolicyCropped
@@ -19,7 +19,13 @@ ButtonDropPanel {
     text: policyText
     icon: WebcamGlobal.videoExportPolicyIcon(policy)
     toolTip: qsTr("How pictures come to the size of the movie")
-    panelWidth: DefFontSizeNormal_x20
+    role: Accessible.ButtonMenu
+    toggled: panel.opened
+    onClicked: {
+        panel.toggle();
+        if (panel.opened && activeFocus)
+            panel.enter();
+    }
 
     function textOf(policy) {
         switch (policy) {
@@ -47,21 +53,36 @@ ButtonDropPanel {
         }
     }
 
-    Repeater {
-        model: dialog.policies
-        delegate: DialogButton {
-            required property int modelData
+    DropPanel {
+        id: panel
 
-            objectName: "exportPolicy" + modelData
-            width: dialog.panelWidth
-            text: dialog.textOf(modelData)
-            icon: WebcamGlobal.videoExportPolicyIcon(modelData)
-            toolTip: dialog.tipOf(modelData)
-            role: Accessible.RadioButton
-            toggled: modelData === dialog.policy
-            onClicked: {
-                dialog.close();
-                dialog.chosen(modelData);
+        owner: dialog
+        contentWidth: choices.width
+        contentHeight: choices.height
+
+        Column {
+            id: choices
+
+            width: DefFontSizeNormal_x20
+            spacing: Theme.spacing
+
+            Repeater {
+                model: dialog.policies
+                delegate: DialogButton {
+                    required property int modelData
+
+                    objectName: "exportPolicy" + modelData
+                    width: choices.width
+                    text: dialog.textOf(modelData)
+                    icon: WebcamGlobal.videoExportPolicyIcon(modelData)
+                    toolTip: dialog.tipOf(modelData)
+                    role: Accessible.RadioButton
+                    toggled: modelData === dialog.policy
+                    onClicked: {
+                        panel.close();
+                        dialog.chosen(modelData);
+                    }
+                }
             }
         }
     }

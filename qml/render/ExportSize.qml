@@ -34,6 +34,8 @@ Column {
         width: parent.width
         text: qsTr("Height: %1").arg(exportSize.exportHeight)
         dim: true
+        wrapMode: Text.Wrap
+        elide: Text.ElideNone
     }
 
     TextLabel {

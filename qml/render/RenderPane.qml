@@ -8,6 +8,7 @@ Column {
     required property var scene
     property Item footPlace: null
 
+    objectName: "renderPane"
     spacing: DefFontSizeMicro
 
     Pane {
@@ -19,7 +20,7 @@ Column {
             brief: true
         }
 
-        TextButton {
+        DialogButton {
             objectName: "moreFilters"
             width: Math.min(implicitWidth, parent.width)
             icon: "svgicons/filters.svg"
@@ -49,6 +50,7 @@ Column {
     RenderVideoButtons {
         id: buttons
 
+        objectName: "renderButtons"
         parent: renderPane.footPlace ? renderPane.footPlace : ownPlace
         width: parent.width
         scene: renderPane.scene

@@ -25,7 +25,7 @@ Item {
             MainWindow.breakMorvaRobot("3");
             showProgress();
         } else if (!MainWindow.runMorvaRobot(Zum.RenderVideo)) {
-            WebcamGlobal.appendMessage(Zum.CommonMessage, Zum.Warning, qsTr("The render could not be started"));
+            scene.tell(Zum.Warning, qsTr("The render could not be started"));
             showProgress();
         }
     }

@@ -162,7 +162,7 @@ QStringList RenderWindow::textsOutside(QQuickItem *item)
     QStringList outside;
     const QRectF box = item->mapRectToScene(item->boundingRect());
     findShown(item, [&](QQuickItem *candidate) {
-        if (!isText(candidate))
+        if (!isText(candidate) || candidate->property("text").toString().isEmpty())
             return false;
         const QRectF area = candidate->mapRectToScene(candidate->boundingRect());
         const bool cut = candidate->property("contentWidth").toReal() > candidate->width() + 1
