@@ -5,7 +5,7 @@ import QtQuick
 Item {
     id: overlay
 
-    AreaSelector {
+    CropAreaSelector {
         anchors.fill: parent
     }
 
