@@ -101,7 +101,8 @@ Item {
         anchors.margins: Theme.spacing
         width: noCamera.implicitWidth + 2 * Theme.spacing
         height: noCamera.implicitHeight + 2 * DefFontSizePico
-        visible: !WebcamGlobal.connected && WebcamGlobal.camboxState === "liveViewPreviewIsOn"
+        visible: display.tabsShown && !WebcamGlobal.connected
+                 && WebcamGlobal.camboxState === "liveViewPreviewIsOn"
                  && FramesModel.framesCount > 0 && 2 * width < flicker.width && 4 * height < flicker.height
         radius: Theme.corner
         color: "#99000000"
