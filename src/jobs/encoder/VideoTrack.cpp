@@ -163,15 +163,8 @@ ffmpeg::FramePointer VideoTrack::frameOf(const QImage &image)
         qWarning("QVideoEncoder::get_video_frame: Wrong image format");
         return nullptr;
     }
-    if (!m_scaler) {
-        m_scaler.reset(sws_getContext(image.width(), image.height(), AV_PIX_FMT_BGRA, image.width(),
-                                      image.height(), m_context->pix_fmt, SWS_BICUBIC, nullptr, nullptr,
-                                      nullptr));
-        if (!m_scaler) {
-            qWarning("Cannot initialize the conversion context");
-            return nullptr;
-        }
-    }
+    if (!m_conversion.isReady() && !m_conversion.prepare(image.size(), m_context->pix_fmt))
+        return nullptr;
     ffmpeg::FramePointer frame(av_frame_alloc());
     frame->format = m_context->pix_fmt;
     frame->width = m_context->width;
@@ -183,9 +176,7 @@ ffmpeg::FramePointer VideoTrack::frameOf(const QImage &image)
         qWarning("Could not allocate video frame");
         return nullptr;
     }
-    const uint8_t *const rows[] = {image.constBits()};
-    const int strides[] = {static_cast<int>(image.bytesPerLine())};
-    if (sws_scale(m_scaler.get(), rows, strides, 0, image.height(), frame->data, frame->linesize) < 0)
+    if (m_conversion.convert(image, *frame) < 0)
         return nullptr;
     return frame;
 }

@@ -3,6 +3,7 @@
 #include "jobs/encoder/EffectGraph.h"
 #include "jobs/encoder/MovieFile.h"
 #include "jobs/encoder/MovieTables.h"
+#include "jobs/encoder/PictureConversion.h"
 
 #include <QImage>
 #include <QVariantMap>
@@ -52,7 +53,7 @@ private:
     const AVCodec *m_codec = nullptr;
     AVStream *m_stream = nullptr;
     ffmpeg::CodecContext m_context;
-    ffmpeg::Scaler m_scaler;
+    PictureConversion m_conversion;
     EffectGraph m_effect;
     int64_t m_nextPts = 0;
 };

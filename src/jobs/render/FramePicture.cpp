@@ -57,6 +57,19 @@ QString timecodeText(const QString &scene, const QString &layer, int handled, do
 
 } // namespace framepicture
 
+namespace {
+
+// What an opaque picture lacks of alpha, it has in its bytes already.
+void bringToArgb(QImage &image)
+{
+    if (image.format() == QImage::Format_RGB32)
+        image.reinterpretAsFormat(QImage::Format_ARGB32);
+    else
+        image.convertTo(QImage::Format_ARGB32);
+}
+
+} // namespace
+
 FramePictureMaker::FramePictureMaker(const RenderInput &input, FrameFilter filter)
     : m_input(input), m_filter(std::move(filter))
 {
@@ -71,7 +84,7 @@ FramePicture FramePictureMaker::make(int index, int handled) const
         picture.reports.append(tr("Cannot load %1. Skipping image").arg(frame.path));
         return picture;
     }
-    picture.image.convertTo(QImage::Format_ARGB32);
+    bringToArgb(picture.image);
     runFilters(picture.image);
     fit(picture, index);
     if (picture.image.isNull()) {
@@ -85,7 +98,7 @@ FramePicture FramePictureMaker::make(int index, int handled) const
     }
     if (m_input.timecode)
         drawTimecode(picture, handled);
-    picture.image.convertTo(QImage::Format_ARGB32);
+    bringToArgb(picture.image);
     return picture;
 }
 
