@@ -22,7 +22,7 @@ Rectangle {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
-        anchors.bottom: bottomPlace.top
+        anchors.bottom: bottom.top
         anchors.margins: DefFontSizeMicro
         contentHeight: panes.height
         boundsBehavior: Flickable.StopAtBounds
@@ -46,7 +46,7 @@ Rectangle {
                 onVisibleChanged: wanted = wanted || visible
                 sourceComponent: RenderPane {
                     scene: controlsPanesBox.scene
-                    footPlace: controlsPanesBox.roomy ? bottomPlace : null
+                    footPlace: controlsPanesBox.roomy ? renderPlace : null
                 }
             }
 
@@ -61,7 +61,7 @@ Rectangle {
     }
 
     Item {
-        id: bottomPlace
+        id: bottom
 
         anchors.left: parent.left
         anchors.right: parent.right
@@ -69,7 +69,13 @@ Rectangle {
         anchors.leftMargin: DefFontSizeMicro
         anchors.rightMargin: 2 * DefFontSizeMicro
         visible: controlsPanesBox.renders
-        height: visible && children.length > 0 ? children[0].height + DefFontSizeMicro : 0
+        height: visible && renderPlace.implicitHeight > 0 ? renderPlace.implicitHeight + DefFontSizeMicro : 0
+
+        Column {
+            id: renderPlace
+
+            width: parent.width
+        }
     }
 
     FocusReveal {
