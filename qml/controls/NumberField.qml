@@ -75,6 +75,7 @@ FocusScope {
             id: minus
 
             anchors.left: parent.left
+            height: parent.height
             plus: false
             toolTip: field.toolTip
             label: qsTr("Decrease") + " " + (field.label !== "" ? field.label : field.toolTip)
@@ -117,6 +118,7 @@ FocusScope {
             id: plus
 
             anchors.right: parent.right
+            height: parent.height
             toolTip: field.toolTip
             label: qsTr("Increase") + " " + (field.label !== "" ? field.label : field.toolTip)
             active: entry.value < field.maximum

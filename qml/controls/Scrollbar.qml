@@ -16,6 +16,7 @@ Item {
                                                   trackSize * viewSize / Math.max(1, contentSize))))
     readonly property real handlePosition: Math.round(Math.max(0, Math.min(1, contentPosition
                                            / Math.max(1, contentSize - viewSize))) * (trackSize - handleSize))
+    readonly property alias pressed: mouse.pressed
     readonly property bool needed: contentSize > viewSize + 0.5
 
     implicitWidth: needed ? scrollBarW : 0

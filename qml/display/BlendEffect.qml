@@ -21,10 +21,6 @@ Item {
     readonly property bool working: !!source && source.visible && effect.active
                                     && (!effect.blending || !!backdrop && backdrop.visible)
 
-    function textureSide(side) {
-        return Math.max(1, Math.min(4096, Math.ceil(side * Math.max(1, zoom) * Screen.devicePixelRatio)));
-    }
-
     QChromaKey {
         id: effect
 
@@ -34,24 +30,23 @@ Item {
 
     Loader {
         anchors.fill: parent
-        active: blendEffect.working
-        sourceComponent: effect.blending ? blendPass : grayPass
-    }
-
-    component LayerTexture: ShaderEffectSource {
-        hideSource: true
-        visible: false
-        sourceRect: Qt.rect(0, 0, blendEffect.width, blendEffect.height)
-        textureSize: Qt.size(blendEffect.textureSide(blendEffect.width),
-                             blendEffect.textureSide(blendEffect.height))
+        sourceComponent: !blendEffect.working ? null : effect.blending ? blendPass : grayPass
     }
 
     Component {
         id: blendPass
 
         ShaderEffect {
-            property LayerTexture source: LayerTexture { sourceItem: blendEffect.source }
-            property LayerTexture backdrop: LayerTexture { sourceItem: blendEffect.backdrop }
+            property BlendEffectLayer source: BlendEffectLayer {
+                sourceItem: blendEffect.source
+                effect: blendEffect
+                zoom: blendEffect.zoom
+            }
+            property BlendEffectLayer backdrop: BlendEffectLayer {
+                sourceItem: blendEffect.backdrop
+                effect: blendEffect
+                zoom: blendEffect.zoom
+            }
             property real sourceOpacity: blendEffect.source ? blendEffect.source.opacity : 1
             property real backdropOpacity: blendEffect.backdrop ? blendEffect.backdrop.opacity : 1
             property int mode: effect.compositionMode
@@ -64,7 +59,11 @@ Item {
         id: grayPass
 
         ShaderEffect {
-            property LayerTexture source: LayerTexture { sourceItem: blendEffect.source }
+            property BlendEffectLayer source: BlendEffectLayer {
+                sourceItem: blendEffect.source
+                effect: blendEffect
+                zoom: blendEffect.zoom
+            }
             property real sourceOpacity: blendEffect.source ? blendEffect.source.opacity : 1
 
             fragmentShader: "shaders/grayscale.frag.qsb"

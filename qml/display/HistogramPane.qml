@@ -61,7 +61,7 @@ Pane {
                 objectName: "histogram" + modelData.name
                 anchors.fill: parent
                 anchors.margins: 1
-                z: values.length > 256 ? -values[256] : 0
+                z: values.length > 256 ? 1 - values[256] : 1
                 visible: pane.shownChannels[modelData.name]
                 running: pane.running
                 histogramData: running ? values : []

@@ -7,9 +7,11 @@ Rectangle {
 
     required property var scene
     property bool shown: true
+    readonly property bool captures: WebcamGlobal.currentActiveTab === Zum.CaptureTab
     readonly property bool renders: WebcamGlobal.currentActiveTab === Zum.TimingTab
-    // Unless the window is very low, what one renders with never scrolls away.
-    readonly property bool roomy: height > 24 * DefFontSizeNormal
+    // What one shoots and renders with never scrolls away, unless the window is too low for it.
+    readonly property bool roomyToShoot: height > 40 * DefFontSizeNormal
+    readonly property bool roomyToRender: height > 24 * DefFontSizeNormal
 
     // Without a project there is nothing to set.
     width: shown && MainWindow.projectLoaded ? Math.min(ControlsPanesBoxW, parent.width * 0.36) : 0
@@ -34,10 +36,17 @@ Rectangle {
             width: flick.width - DefFontSizeMicro
             spacing: DefFontSizeMicro
 
+            Loader {
+                width: parent.width
+                active: MainWindow.projectLoaded
+                visible: controlsPanesBox.captures
+                sourceComponent: CaptureControlsPane {
+                    tabsPlace: controlsPanesBox.roomyToShoot ? shootingPlace : null
+                }
+            }
+
             // Made when it is first shown.
             Loader {
-                id: renderPane
-
                 property bool wanted: false
 
                 width: parent.width
@@ -46,7 +55,7 @@ Rectangle {
                 onVisibleChanged: wanted = wanted || visible
                 sourceComponent: RenderPane {
                     scene: controlsPanesBox.scene
-                    footPlace: controlsPanesBox.roomy ? renderPlace : null
+                    footPlace: controlsPanesBox.roomyToRender ? renderingPlace : null
                 }
             }
 
@@ -63,18 +72,33 @@ Rectangle {
     Item {
         id: bottom
 
+        readonly property real content: (shootingPlace.visible ? shootingPlace.height : 0)
+                                        + (renderingPlace.visible ? renderingPlace.height : 0)
+
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         anchors.leftMargin: DefFontSizeMicro
         anchors.rightMargin: 2 * DefFontSizeMicro
-        visible: controlsPanesBox.renders
-        height: visible && renderPlace.implicitHeight > 0 ? renderPlace.implicitHeight + DefFontSizeMicro : 0
+        height: content > 0 ? content + DefFontSizeMicro : 0
 
         Column {
-            id: renderPlace
+            id: shootingPlace
 
             width: parent.width
+            visible: controlsPanesBox.captures
+
+            CaptureButton {
+                width: parent.width
+                visible: !controlsPanesBox.roomyToShoot
+            }
+        }
+
+        Column {
+            id: renderingPlace
+
+            width: parent.width
+            visible: controlsPanesBox.renders
         }
     }
 

@@ -8,6 +8,19 @@ Item {
     property bool threadIsRunning: false
     property bool busy: false
     property int fps: 0
+    property bool rotate: false
+    property bool paused: false
+    property bool renderSmooth: false
+    property bool histogramOn: false
+    property bool grayscale: false
+    property bool eyedropperOn: false
+    property real coordSystemWidth: 0
+    property real coordSystemHeight: 0
+    property string progressAction: ""
+    property int progressTotal: 0
+    property int progressCurrent: 0
+    property int powerFactor: 0
+    property QtObject global: null
     property bool useIcc: false
     property string iccPath: ""
     property bool dofEnabled: false
@@ -40,7 +53,7 @@ Item {
 
     visible: false
 
-    ListModel {
+    MorvaListModel {
         id: emptyList
     }
 }

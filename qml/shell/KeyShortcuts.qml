@@ -24,6 +24,8 @@ Item {
             FramesModel.actionOnSelectedFrames(Zum.ActDelete);
         } else if (MainWindow.projectLoaded && WebcamGlobal.capturingInprogress === -1 && WebcamGlobal.connected) {
             WebcamGlobal.doCaptureFrame();
+        } else {
+            WebcamGlobal.accessToUnavailFeature(Zum.CameraCapture);
         }
         FramesModel.copyModeOn = false;
     }

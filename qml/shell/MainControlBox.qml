@@ -74,15 +74,6 @@ Rectangle {
             }
 
             IconButton {
-                objectName: "filtersButton"
-                icon: "svgicons/filters.svg"
-                active: MainWindow.projectLoaded
-                toggled: WebcamGlobal.hasPostProcessSettings
-                toolTip: qsTr("Filters of the picture")
-                onClicked: mainControlBox.scene.postProcessFiltersBox()
-            }
-
-            IconButton {
                 icon: "svgicons/settings.svg"
                 toolTip: qsTr("Application settings") + " [P]"
                 onClicked: mainControlBox.scene.propertiesBox()

@@ -10,7 +10,7 @@ SceneDevices {
     readonly property alias robotMessgModel: messages.robotMessgModel
     readonly property alias dialog: dialogLayer
     readonly property alias popup: popupMessage
-    property int adding: 0
+    readonly property int adding: repainting.width
 
     width: MainWindow.windowSize.width
     height: MainWindow.windowSize.height
@@ -26,11 +26,11 @@ SceneDevices {
     }
 
     function rescale() {
-        WebcamGlobal.calculateDisplayAndCoordSystemScale(screenArea.width, screenArea.height);
+        WebcamGlobal.calculateDisplayAndCoordSystemScale(screenArea.roomWidth, screenArea.roomHeight);
     }
 
     function repaint() {
-        repaintSteps.restart();
+        repainting.start();
     }
 
     function toggleFullscreen() {
@@ -103,12 +103,10 @@ SceneDevices {
         id: panels
     }
 
-    PostProcessState {}
-
     ScreenArea {
         id: screenArea
 
-        anchors.left: mainControlBox.right
+        anchors.left: screenControls.right
         anchors.right: controlsPanesBox.left
         anchors.top: topLine.bottom
         anchors.bottom: timelineBox.top
@@ -116,8 +114,23 @@ SceneDevices {
         anchors.bottomMargin: (timelineBox.scale - 1) * timelineBox.height
         visible: tabRules.screenShown
         scene: appWindow
-        onWidthChanged: appWindow.rescale()
-        onHeightChanged: appWindow.rescale()
+        tabsShown: tabRules.screenControlsShown
+        onRoomWidthChanged: appWindow.rescale()
+        onRoomHeightChanged: appWindow.rescale()
+    }
+
+    ScreenControls {
+        id: screenControls
+
+        z: 100
+        anchors.left: mainControlBox.right
+        anchors.top: screenArea.top
+        anchors.bottom: screenArea.bottom
+        shown: tabRules.screenControlsShown
+        scene: appWindow
+        timingSize: screenArea.timingSize
+        capturePixelZoom: screenArea.capturePixelZoom
+        timingPixelZoom: screenArea.timingPixelZoom
     }
 
     DocsView {
@@ -152,7 +165,7 @@ SceneDevices {
         scene: appWindow
     }
 
-    TimelineBox {
+    Timeline {
         id: timelineBox
 
         anchors.horizontalCenter: parent.horizontalCenter
@@ -163,6 +176,8 @@ SceneDevices {
         visible: tabRules.timelineShown
         compactMode: tabRules.compacted
         rangeControlVisible: tabRules.timing
+        readyRuns: screenArea.readyRuns
+        readyPercent: screenArea.readyPercent
         height: visible ? wantedHeight : 0
         scene: appWindow
     }
@@ -216,30 +231,8 @@ SceneDevices {
 
     Autosave {}
 
-    // A pixel that comes and goes, so that the window draws itself anew.
-    Rectangle {
-        width: appWindow.adding
-        height: 1
-        color: globalFonColor
-    }
-
-    Timer {
-        id: repaintSteps
-
-        property int left: 0
-
-        interval: 100
-        repeat: true
-        onRunningChanged: {
-            if (running)
-                left = 4;
-        }
-        onTriggered: {
-            appWindow.adding = left % 2 === 0 ? 1 : 0;
-            left -= 1;
-            if (left === 0)
-                stop();
-        }
+    Repainting {
+        id: repainting
     }
 
     KeyShortcuts {

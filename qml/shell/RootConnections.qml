@@ -123,6 +123,20 @@ Item {
         // wake it again.
         function onCurrentThreadOperationChanged() {
             WebcamGlobal.paused = true;
+            wakeAfterOperation.restart();
+        }
+    }
+
+    // An operation that needs no dialog would leave the live view at rest for good.
+    Timer {
+        id: wakeAfterOperation
+
+        interval: 1000
+        onTriggered: {
+            if (MainWindow.currentThreadOperation === Zum.ONoOperation && MainWindow.qmlDialogUrl.length === 0
+                    && MainWindow.currentRobotJob === Zum.NoJob && !WebcamGlobal.userIsInactive
+                    && WebcamGlobal.connected && WebcamGlobal.currentActiveTab === Zum.CaptureTab)
+                WebcamGlobal.paused = false;
         }
     }
 

@@ -2,7 +2,7 @@ import QtQuick
 import Zum 1.0
 
 // Which capturing device the scene holds: the kinds there are, choosing one and swapping it.
-SceneProject {
+SceneCapture {
     id: sceneDevices
 
     readonly property CameraConnector emptyCamera: CameraConnector {
@@ -34,11 +34,15 @@ SceneProject {
         controls: "NewWebCameraControls.qml"
     }
     readonly property alias deviceDummy: dummy
+    // Where the live picture shows. The device itself stays whatever shows, with a camera connected to it.
+    property Item liveViewPlace: null
     readonly property alias reloadRunning: reloadPause.running
 
     function loadCapturingPlugin() {
         if (WebcamGlobal.connected)
             return;
+        if (!MainWindow.capturingDeviceObject)
+            MainWindow.capturingDeviceObject = dummy;
         const kind = Number(MainWindow.getSetting("currentCapturingDevice", Zum.CapturingDeviceCanonEOS));
         MainWindow.currentCapturingDevice = kind;
         if (kind === Zum.CapturingDeviceCanonEOS)
@@ -65,6 +69,17 @@ SceneProject {
 
     DeviceDummy {
         id: dummy
+    }
+
+    DeviceList {}
+
+    Loader {
+        id: deviceHolder
+
+        parent: sceneDevices.liveViewPlace ? sceneDevices.liveViewPlace : sceneDevices
+        anchors.centerIn: parent
+        visible: sceneDevices.liveViewPlace !== null
+        source: MainWindow.cameraQML ? MainWindow.cameraQML.window : ""
     }
 
     Timer {

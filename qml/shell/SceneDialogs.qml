@@ -5,6 +5,9 @@ import Zum 1.0
 FocusScope {
     id: sceneDialogs
 
+    // What progresses is a shot that the capturing device saves.
+    property bool savingShot: false
+
     function showDialog(fileName) {
         MainWindow.qmlDialogUrl = fileName;
     }
@@ -23,6 +26,10 @@ FocusScope {
 
     function camReloadDeviceConfirmBox() {
         showDialog("CamReloadDeviceConfirmDialog.qml");
+    }
+
+    function imageQualityBox() {
+        showDialog("ImageQualityDialog.qml");
     }
 
     function saveConfirmBox() {
@@ -63,11 +70,23 @@ FocusScope {
 
     // Follows the progress: the dialog stays after the end when there is something to read in it.
     function progressBox() {
-        if (MainWindow.progressTotal > 0)
+        if (MainWindow.progressTotal === 0)
+            slowShot.stop();
+        if (MainWindow.progressTotal > 0 && savingShot)
+            slowShot.start();
+        else if (MainWindow.progressTotal > 0)
             showDialog("LoadDialog.qml");
         else if (MainWindow.robotErrorCount > 0)
             showDialog("LoadDialog.qml");
         else if (!WebcamGlobal.dialogRemainsVisible && MainWindow.qmlDialogUrl === "LoadDialog.qml")
             showDialog("");
+    }
+
+    // A shot is mostly saved before a dialog could be read, and whoever shoots looks at the picture.
+    Timer {
+        id: slowShot
+
+        interval: 700
+        onTriggered: sceneDialogs.showDialog("LoadDialog.qml")
     }
 }

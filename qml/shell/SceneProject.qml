@@ -25,6 +25,11 @@ SceneDialogs {
         return MainWindow.saveProjectXmlFile(Zum.SaveProjectAs);
     }
 
+    // Selects from the current frame up to another one.
+    function addToGroup(row) {
+        FramesModel.addRangeToGroup(FramesModel.currentIndex, row);
+    }
+
     function addLastProject() {
         MainWindow.addLastProject();
     }

@@ -6,32 +6,87 @@ Item {
     id: screenArea
 
     required property var scene
+    property bool tabsShown: true
+    readonly property alias rules: displayRules
+    readonly property alias timingSize: ramPreviewSize
+    readonly property bool onCapture: WebcamGlobal.currentActiveTab === Zum.CaptureTab
+    readonly property bool onTiming: WebcamGlobal.currentActiveTab === Zum.TimingTab
+    // The part of the Capture tab's view that is left for its picture.
+    readonly property real roomWidth: capture.item ? capture.item.roomWidth : width
+    readonly property real roomHeight: capture.item ? capture.item.roomHeight : height
+    // The zoom at which a pixel of a frame is one of the screen.
+    readonly property real capturePixelZoom: WebcamGlobal.coordSystemScale > 0 ? 1 / WebcamGlobal.coordSystemScale : 0
+    readonly property real timingPixelZoom: timing.item && timing.item.ramView.shownScale > 0
+                                            ? 1 / timing.item.ramView.shownScale : 0
+
+    // What of the play range lies in memory: pairs of rows, and the share of the range in per cent.
+    readonly property var readyRuns: timing.item ? timing.item.ramView.preview.readyRuns : []
+    readonly property real readyPercent: timing.item ? timing.item.ramView.preview.readyPercent : 0
 
     clip: true
 
-    Loader {
+    DisplayRules {
+        id: displayRules
+    }
+
+    PostProcessState {}
+
+    TimingSize {
+        id: ramPreviewSize
+    }
+
+    Item {
         id: displayContainer
 
         anchors.fill: parent
-        active: WebcamGlobal.currentActiveTab === Zum.CaptureTab
-        visible: active
-        sourceComponent: FirstSteps {
+        visible: screenArea.onCapture
+
+        // Stays once it was made, with the pictures that it has read.
+        LastingLoader {
+            id: capture
+
+            anchors.fill: parent
+            wanted: MainWindow.projectLoaded && screenArea.onCapture
+            wantedStill: MainWindow.projectLoaded
+            sourceComponent: Display {
+                scene: screenArea.scene
+                rules: displayRules
+                running: displayContainer.visible
+                tabsShown: screenArea.tabsShown
+            }
+        }
+
+        FirstSteps {
+            anchors.fill: parent
+            active: screenArea.onCapture && !MainWindow.projectLoaded
             scene: screenArea.scene
             text: qsTr("Frames that are captured go into a project: one file and a folder beside it.")
-            openText: qsTr("The project is ready. This version cannot connect a camera yet.")
         }
     }
 
-    Loader {
+    Item {
         id: ramPreviewContainer
 
         anchors.fill: parent
-        active: WebcamGlobal.currentActiveTab === Zum.TimingTab
-        visible: active
-        sourceComponent: FirstSteps {
+        visible: screenArea.onTiming
+
+        LastingLoader {
+            id: timing
+
+            anchors.fill: parent
+            wanted: MainWindow.projectLoaded && screenArea.onTiming
+            wantedStill: MainWindow.projectLoaded
+            sourceComponent: TimingDisplay {
+                running: ramPreviewContainer.visible
+                size: ramPreviewSize
+            }
+        }
+
+        FirstSteps {
+            anchors.fill: parent
+            active: screenArea.onTiming && !MainWindow.projectLoaded
             scene: screenArea.scene
             text: qsTr("The timing of frames is set in a project.")
-            openText: qsTr("This version cannot show the pictures of the timeline yet.")
         }
     }
 

@@ -1,161 +1,179 @@
 import QtQuick
 import Zum 1.0
+import WheelArea 1.0
 
 // The frames side by side. Only those in sight are made.
 Item {
-    id: strip
+    id: frameStrip
 
     required property var timeline
-    readonly property int emptyKind: !MainWindow.projectLoaded ? 0 : FramesModel.framesCount === 0 ? 1 : 2
+    required property var commands
+    readonly property alias flickable: view
+    readonly property real viewWidth: view.width
+    readonly property bool connected: view.connected
+    readonly property bool flashing: cover.visible
+    property bool lastAccessedIsWanted: false
+    // Whether the user has moved the list since the frames were loaded.
+    property bool movedByHand: false
+    readonly property int unit: timeline.unit
+    // No wider than a thumbnail of that height could be.
+    readonly property real thumbRoom: (view.height - 2.2 * unit) / (FramesModel.doubleDecker ? 2 : 1)
+    readonly property int thumbWidth: Math.round(Math.max(2 * unit, timeline.contentScale
+                                      * Math.min(MainWindow.scaledThumbSize.width, thumbRoom * 16 / 9)))
+    readonly property int frameWidth: thumbWidth + Math.floor(unit / 2)
+    readonly property int leftMostIndex: view.count === 0 ? -1 : Math.min(view.count - 1, Math.max(0, Math.floor(
+                                         (view.contentX - view.originX) / frameWidth)))
 
-    clip: true
-
-    ListView {
-        id: view
-
-        anchors.fill: parent
-        anchors.bottomMargin: scroll.height
-        orientation: ListView.Horizontal
-        boundsBehavior: Flickable.StopAtBounds
-        model: FramesModel
-        currentIndex: FramesModel.currentIndex
-        highlightFollowsCurrentItem: false
-        cacheBuffer: width
-        reuseItems: true
-        interactive: false
-        delegate: TimelineFrame {
-            height: view.height
-        }
-        onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
+    // The row at a place of the strip, -1 where there is none.
+    function rowAt(x) {
+        const row = Math.floor((view.contentX - view.originX + x) / frameWidth);
+        return row >= 0 && row < view.count ? row : -1;
     }
 
-    Scrollbar {
-        id: scroll
-
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.bottom: parent.bottom
-        flickable: view
-        vertical: false
+    // The left edge of a row on the strip.
+    function placeOf(row) {
+        return view.originX + row * frameWidth - view.contentX;
     }
 
-    TextLabel {
-        anchors.centerIn: parent
-        width: parent.width - DefFontSizeNormal_x4
-        visible: strip.emptyKind < 2
-        horizontalAlignment: Text.AlignHCenter
-        wrapMode: Text.Wrap
-        dim: true
-        text: strip.emptyKind === 0
-              ? qsTr("No project. Create or load project to capture, add, remove or modify frames")
-              : qsTr("No Frames")
-    }
-
-    Rectangle {
-        anchors.horizontalCenter: parent.horizontalCenter
-        anchors.bottom: scroll.top
-        // Above the strip's own mouse, which would take the click for one on the frame below.
-        z: 1
-        visible: FramesModel.selectedCount > 0
-        width: hint.implicitWidth + DefFontSizeNormal_x2
-        height: DefFontSizeNormal_Pltr + DefFontSizeNano
-        radius: globalCorner
-        color: GlobalDarkestColor
-
-        TextLabel {
-            id: hint
-
-            anchors.centerIn: parent
-            small: true
-            text: qsTr("Click here or press Esc to cancel selection")
-        }
-
-        MouseArea {
-            anchors.fill: parent
-            onClicked: strip.timeline.dismiss()
-        }
-    }
-
-    MouseArea {
-        id: mouse
-
-        property int pressedRow: -1
-        property real pressedContentX: 0
-        property real pressedX: 0
-        readonly property int rowUnder: view.indexAt(mouseX + view.contentX, 1)
-
-        anchors.fill: view
-        acceptedButtons: Qt.LeftButton | Qt.MiddleButton
-        cursorShape: pressedButtons & Qt.MiddleButton ? Qt.ClosedHandCursor : Qt.ArrowCursor
-        onPressed: event => {
-            pressedRow = view.indexAt(event.x + view.contentX, 1);
-            pressedContentX = view.contentX;
-            pressedX = event.x;
-        }
-        onPositionChanged: event => {
-            if (pressedButtons & Qt.MiddleButton)
-                strip.scrollTo(pressedContentX - (event.x - pressedX));
-        }
-        onReleased: event => {
-            if (event.button !== Qt.LeftButton || pressedRow < 0)
-                return;
-            const row = view.indexAt(event.x + view.contentX, 1);
-            if (row === pressedRow)
-                strip.pick(row, event.modifiers);
-            else if (row >= 0)
-                strip.drag(pressedRow, row, event.modifiers);
-        }
-    }
-
-    // The span that a drag would select.
-    Rectangle {
-        visible: mouse.pressed && mouse.pressedButtons === Qt.LeftButton && mouse.rowUnder >= 0
-                 && mouse.rowUnder !== mouse.pressedRow
-        x: Math.min(mouse.pressedX, mouse.mouseX)
-        width: Math.abs(mouse.mouseX - mouse.pressedX)
-        height: view.height
-        color: activeColor
-        opacity: 0.2
-    }
-
-    WheelHandler {
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-        onWheel: event => strip.scrollTo(view.contentX - Math.sign(event.angleDelta.y + event.angleDelta.x)
-                                                         * (MainWindow.scaledThumbSize.width + DefFontSizeMicro))
+    // First and last row to be seen, with two more at each side; empty without frames.
+    function getVisibleFramesIndxs() {
+        if (view.count === 0)
+            return [];
+        const left = rowAt(10);
+        const right = rowAt(view.width - 10);
+        return [Math.max(0, (left < 0 ? 0 : left) - 2),
+                Math.min(view.count - 1, (right < 0 ? view.count - 1 : right) + 2)];
     }
 
     function scrollTo(x) {
-        view.contentX = Math.max(0, Math.min(view.contentWidth - view.width, x));
+        view.contentX = Math.round(view.originX + Math.max(0, Math.min(view.contentWidth - view.width, x)));
+        hand.moved();
     }
 
-    // From one row to another: selects the rows between, or with Alt moves frames, with Ctrl copies of them.
-    function drag(from, to, modifiers) {
-        if (WebcamGlobal.timelineInteractive) {
-            FramesModel.addRangeToGroup(from, to);
-            return;
-        }
-        const copies = modifiers & Qt.ControlModifier;
-        if (FramesModel.selectedCount > 0 && FramesModel.get(from, false).ingroup) {
-            FramesModel.currentIndex = to;
-            if (copies)
-                timeline.dublicateAndMoveFrames();
-            else
-                timeline.moveFrames();
-        } else if (copies) {
-            FramesModel.duplicateSingleFrame(from, Zum.CaptureModeAppend, to, true);
-        } else {
-            FramesModel.moveSingleFrame(from, to, true);
-        }
+    function scrollBy(pixels) {
+        scrollTo(view.contentX - view.originX + pixels);
     }
 
-    function pick(row, modifiers) {
-        if (modifiers & Qt.ShiftModifier) {
-            FramesModel.addRangeToGroup(FramesModel.currentIndex, row);
-        } else if (modifiers & Qt.ControlModifier) {
-            FramesModel.switchSelectionOnSingleFrame(row);
-        } else {
+    // From the leftmost frame, a frame a step.
+    function wheelBy(steps) {
+        if (view.count > 0)
+            scrollTo(Math.max(0, leftMostIndex - steps) * frameWidth);
+    }
+
+    function goTo(row) {
+        lastAccessedIsWanted = false;
+        const place = placeOf(row);
+        const inSight = place >= 0 && place + frameWidth <= view.width;
+        if (row >= 0 && row < view.count && !inSight)
+            view.positionViewAtIndex(row, ListView.Contain);
+    }
+
+    function goToMiddle(row) {
+        if (row >= 0 && row < view.count)
+            view.positionViewAtIndex(row, ListView.Center);
+    }
+
+    function goToEnd() {
+        movedByHand = false;
+        lastAccessedIsWanted = false;
+        view.positionViewAtEnd();
+    }
+
+    function goToLastAccessed() {
+        goTo(FramesModel.lastAccessedIndex);
+    }
+
+    // Unless another place is gone to first.
+    function goToLastAccessedSoon() {
+        lastAccessedIsWanted = true;
+        Qt.callLater(followLastAccessed);
+    }
+
+    function followLastAccessed() {
+        if (lastAccessedIsWanted)
+            goToLastAccessed();
+    }
+
+    // While rows multiply the list does without the model.
+    function disconnectModel() {
+        view.state = "unconnected";
+    }
+
+    function connectModel() {
+        view.state = "connected";
+        goToMiddle(timeline.currentMiddleFrame);
+        goToLastAccessed();
+    }
+
+    function flash() {
+        cover.flash();
+    }
+
+    function handMoves(moving) {
+        hand.holds(moving);
+    }
+
+    clip: true
+    onWidthChanged: {
+        if (FramesModel.loaded)
             WebcamGlobal.globalDismiss();
+    }
+    onThumbWidthChanged: goToMiddle(timeline.currentMiddleFrame)
+
+    FrameListView {
+        id: view
+
+        anchors.fill: parent
+        anchors.topMargin: Math.floor(frameStrip.unit / 4)
+        frameWidth: frameStrip.frameWidth
+        thumbWidth: frameStrip.thumbWidth
+        unit: frameStrip.unit
+    }
+
+    StripHand {
+        id: hand
+
+        strip: frameStrip
+    }
+
+    AreaSelector {
+        anchors.fill: view
+        strip: frameStrip
+        onPicked: (row, modifiers) => frameStrip.commands.pick(row, modifiers)
+        onDragged: (from, to, modifiers) => frameStrip.commands.drag(from, to, modifiers)
+        onContextWanted: (row, x, y) => {
             FramesModel.currentIndex = row;
+            frameMenu.openAt(x, y);
         }
+    }
+
+    WheelArea {
+        anchors.fill: parent
+        onStepped: (steps, modifiers) => frameStrip.wheelBy(steps)
+    }
+
+    StripArrows {
+        anchors.fill: view
+        visible: frameStrip.timeline.arrowsVisible && frameStrip.connected
+        strip: frameStrip
+    }
+
+    FlashCover {
+        id: cover
+
+        anchors.fill: parent
+    }
+
+    TimelineMessages {
+        anchors.fill: parent
+        timeline: frameStrip.timeline
+        commands: frameStrip.commands
+        connected: frameStrip.connected
+    }
+
+    FrameMenu {
+        id: frameMenu
+
+        commands: frameStrip.commands
     }
 }

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU">
 <context>
+    <name>HistogramBox</name>
+    <message>
+        <source>Live</source>
+        <translation>Живая</translation>
+    </message>
+    <message>
+        <source>Measure the live view, once a second</source>
+        <translation>Измерять живое изображение раз в секунду</translation>
+    </message>
+</context>
+<context>
     <name>HistogramPane</name>
     <message>
         <source>Blue</source>

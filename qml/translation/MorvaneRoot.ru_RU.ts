@@ -42,10 +42,6 @@
         <translation>Новый проект</translation>
     </message>
     <message>
-        <source>Filters of the picture</source>
-        <translation>Фильтры изображения</translation>
-    </message>
-    <message>
         <source>Open a project</source>
         <translation>Открыть проект</translation>
     </message>
@@ -268,6 +264,10 @@
         <source>No project</source>
         <translation>Нет проекта</translation>
     </message>
+    <message>
+        <source>cache %1 %</source>
+        <translation>кэш %1 %</translation>
+    </message>
 </context>
 <context>
     <name>ScreenArea</name>
@@ -280,20 +280,12 @@
         <translation>Нет видео</translation>
     </message>
     <message>
-        <source>The project is ready. This version cannot connect a camera yet.</source>
-        <translation>Проект готов. Подключать камеру эта версия пока не умеет.</translation>
-    </message>
-    <message>
         <source>The timing of frames is set in a project.</source>
         <translation>Порядок и длительность кадров задают в проекте.</translation>
     </message>
     <message>
         <source>This version cannot play videos yet.</source>
         <translation>Воспроизводить видео эта версия пока не умеет.</translation>
-    </message>
-    <message>
-        <source>This version cannot show the pictures of the timeline yet.</source>
-        <translation>Показывать кадр крупно эта версия пока не умеет.</translation>
     </message>
 </context>
 <context>

@@ -8,6 +8,10 @@
         <translation>Нет снятого изображения </translation>
     </message>
     <message>
+        <source>Frame %1</source>
+        <translation>Кадр %1</translation>
+    </message>
+    <message>
         <source>Reference image is missing</source>
         <translation>Нет опорного изображения</translation>
     </message>

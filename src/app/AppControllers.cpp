@@ -3,6 +3,7 @@
 #include "app/MainWindow.h"
 #include "app/WindowQuitHost.h"
 #include "project/BackgroundImage.h"
+#include "shared/TimeText.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -10,8 +11,10 @@
 AppControllers::AppControllers(AppEnvironment given)
     : environment(std::move(given)), windowFlags(startup::windowFlags(settings())),
       locale(settings(), [this] { return environment.systemLocale; }), devices(global),
-      robot(robotServices()), recent(settings(), environment.now),
-      paths(settings(), pathHooks(), QDir::homePath()),
+      capture(std::move(environment.cameras), settings()), cameras(global, devices, settings()),
+      shots(global, frames, [this] { return timeStamp(); }),
+      timeLapse(global, frames, std::move(environment.timeLapseTicker)), robot(robotServices()),
+      recent(settings(), environment.now), paths(settings(), pathHooks(), QDir::homePath()),
       files(*environment.dialogs, settings(), global,
             [this] { return paths.projPath().isEmpty() ? QString() : paths.projDirPath(); }),
       editor(files, settings(), *environment.desktop, messages),
@@ -31,6 +34,11 @@ AppControllers::AppControllers(AppEnvironment given)
 }
 
 AppControllers::~AppControllers() = default;
+
+QString AppControllers::timeStamp() const
+{
+    return morvane::timeStamp(environment.now());
+}
 
 ProjectPaths::Hooks AppControllers::pathHooks()
 {

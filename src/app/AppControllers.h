@@ -8,7 +8,11 @@
 #include "app/QuitSequence.h"
 #include "app/StartupSettings.h"
 #include "app/UserDocs.h"
+#include "capture/CameraList.h"
+#include "capture/CaptureEnvironment.h"
+#include "capture/CaptureWorkflow.h"
 #include "capture/DeviceSelection.h"
+#include "capture/TimeLapse.h"
 #include "jobs/RobotSupervisor.h"
 #include "paths/Curves.h"
 #include "project/FrameFileOperations.h"
@@ -52,6 +56,10 @@ struct AppControllers
     startup::WindowFlags windowFlags;
     LocaleChoice locale;
     DeviceSelection devices;
+    CaptureEnvironment capture;
+    CameraList cameras;
+    CaptureWorkflow shots;
+    TimeLapse timeLapse;
     RobotSupervisor robot;
     LightboxChoice lightbox;
     EventSounds sounds;
@@ -76,6 +84,7 @@ struct AppControllers
     std::unique_ptr<QuitSequence> quitSequence;
 
 private:
+    QString timeStamp() const;
     ProjectPaths::Hooks pathHooks();
     ProjectServices projectServices();
     RobotServices robotServices();

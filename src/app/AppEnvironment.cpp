@@ -22,5 +22,6 @@ AppEnvironment AppEnvironment::system(QQmlEngine &engine, std::unique_ptr<Settin
     environment.systemLocale = LocaleChoice::systemLocaleName();
     if (const QScreen *screen = QGuiApplication::primaryScreen())
         environment.logicalDpi = qRound(screen->logicalDotsPerInchX());
+    environment.cameras = CaptureEnvironment::system();
     return environment;
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "capture/CaptureEnvironment.h"
 #include "shared/DesktopServices.h"
 #include "shared/Dialogs.h"
 #include "shared/Settings.h"
+#include "timeline/Ticker.h"
 
 #include <functional>
 #include <memory>
@@ -26,6 +28,10 @@ struct AppEnvironment
     QString systemLocale;
     /// Logical horizontal density of the screen, in dots per inch.
     int logicalDpi = 96;
+    /// The cameras that there are.
+    CaptureEnvironment::Parts cameras;
+    /// The clock of the time-lapse tool; its own when null.
+    std::unique_ptr<Ticker> timeLapseTicker;
 
     /// The user's own desktop. Takes the engine and the settings that the start has already made.
     static AppEnvironment system(QQmlEngine &engine, std::unique_ptr<Settings> settings);

@@ -39,6 +39,8 @@ MainWindow::MainWindow(std::unique_ptr<AppControllers> controllers, const QStrin
     startup::readInto(c.global, c.settings());
     publishContext();
     connectControllers();
+    if (const QString camera = commandline::cameraFile(arguments); !camera.isEmpty())
+        shootFrom(camera);
     setSource(QUrl(sceneUrl));
     WindowPlacement(c.settings(), QStringLiteral("mainwindow"), QStringLiteral("maximized")).restore(*this);
     emit windowSizeChanged();
@@ -83,6 +85,10 @@ void MainWindow::publishContext()
     context->setContextProperty(QStringLiteral("FramesModel"), &c.frames);
     context->setContextProperty(QStringLiteral("WebcamGlobal"), &c.global);
     context->setContextProperty(QStringLiteral("CurvesModel"), &c.curves);
+    context->setContextProperty(QString::fromLatin1(CaptureEnvironment::contextName), &c.capture);
+    context->setContextProperty(QStringLiteral("CameraList"), &c.cameras);
+    context->setContextProperty(QStringLiteral("CaptureWorkflow"), &c.shots);
+    context->setContextProperty(QStringLiteral("TimeLapse"), &c.timeLapse);
     context->setContextProperties(morvane::contextValues(
         {font, scale, startup::timelineScale(c.settings()), ::EventSounds::available()}));
 }
@@ -126,6 +132,21 @@ void MainWindow::connectControllers()
     connect(&c.lifecycle, &ProjectLifecycle::windowModifiedChanged, this, [this] { setTitle(); });
     connect(&c.lifecycle, &ProjectLifecycle::quitRequested, this, qOverload<bool>(&MainWindow::quit),
             Qt::UniqueConnection);
+}
+
+void MainWindow::shootFrom(const QString &file)
+{
+    AppControllers &c = controllers();
+    const int index = useFileAsCamera(file);
+    if (index < 0)
+        return;
+    const QString kindKey = QStringLiteral("currentCapturingDevice");
+    // A DSLR camera opens no files.
+    if (c.settings().value(kindKey, Zum::CapturingDeviceCanonEOS).toInt() == Zum::CapturingDeviceCanonEOS)
+        c.settings().setValue(kindKey, int(Zum::CapturingDeviceWebcam));
+    c.devices.setCurrentCapturingDevice(c.settings().value(kindKey).toInt());
+    c.cameras.fill(c.capture.devices());
+    c.cameras.choose(index);
 }
 
 void MainWindow::openNamedProject(const QStringList &arguments)

@@ -38,6 +38,7 @@ private:
     void prepareWindow();
     void publishContext();
     void connectControllers();
+    void shootFrom(const QString &file);
     void openNamedProject(const QStringList &arguments);
     void takeDrop(const QList<QUrl> &urls);
 };

@@ -4,10 +4,15 @@
 #include "app/CursorShapeArea.h"
 #include "app/QNumImput.h"
 #include "app/WheelArea.h"
+#include "capture/OsSpecific.h"
+#include "capture/webcam/WebCamWindow.h"
 #include "preview/Histogram.h"
 #include "preview/QChromaKey.h"
+#include "preview/RamPreview.h"
 #include "shared/Zum.h"
 #include "timeline/Progress.h"
+#include "timeline/RowBand.h"
+#include "timeline/TimelineIndicator.h"
 
 #include <qqml.h>
 #include <QPainterPath>
@@ -27,8 +32,10 @@ void add(const char *name)
 
 void registerTypes()
 {
+    add<WebCamWindow>("WebCamera");
     add<Progress>("Progress");
     add<Histogram>("Histogram");
+    add<RamPreview>("CRamPreview");
     add<Zum>("Zum");
     add<WheelArea>("WheelArea");
     add<CursorShapeArea>("CursorShapeArea");
@@ -38,6 +45,9 @@ void registerTypes()
     add<ASlider>("Aslider");
     add<QNumImput>("QNumImput");
     add<QChromaKey>("QChromaKey");
+    add<RowBand>("RowBand");
+    add<TimelineIndicator>("TimelineIndicator");
+    add<OsSpecific>("OsSpecific");
 }
 
 } // namespace typeregistry

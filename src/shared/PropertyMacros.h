@@ -56,6 +56,28 @@ private:                                                       \
     Q_PROPERTY(Type name READ name WRITE set##Name NOTIFY name##Changed STORED true) \
     MORVANE_PROPERTY_BODY(Type, name, Name, Q_EMIT changed();, __VA_ARGS__)
 
+/// A value that the class itself stores and the scene may only read: the setter is protected.
+#define MORVANE_READ_ONLY_PROPERTY(Type, name, Name, ...)             \
+    Q_PROPERTY(Type name READ name NOTIFY name##Changed STORED false) \
+public:                                                               \
+    Type name() const                                                 \
+    {                                                                 \
+        return m_##name;                                              \
+    }                                                                 \
+    Q_SIGNAL void name##Changed();                                    \
+                                                                      \
+protected:                                                            \
+    void set##Name(const Type &value)                                 \
+    {                                                                 \
+        if (morvane::sameValue(m_##name, value))                      \
+            return;                                                   \
+        m_##name = value;                                             \
+        Q_EMIT name##Changed();                                       \
+    }                                                                 \
+                                                                      \
+private:                                                              \
+    Type m_##name{__VA_ARGS__};
+
 /// A facade's property that another object holds: `holder` is an expression giving that object. The owner
 /// connects the holder's signal to this one's.
 #define MORVANE_FORWARDED_PROPERTY(Type, name, Name, holder)             \

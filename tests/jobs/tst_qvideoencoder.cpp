@@ -1,6 +1,5 @@
-#include "MovieProbe.h"
+#include "MadeMovie.h"
 
-#include "jobs/QVideoEncoder.h"
 #include "shared/Names.h"
 
 #include <QDate>
@@ -8,49 +7,6 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
-
-#ifdef Q_OS_UNIX
-#include <sys/resource.h>
-#include <unistd.h>
-#include <csignal>
-#endif
-
-namespace {
-
-constexpr QSize smallSize(64, 48);
-
-constexpr const char *everyFormat[] = {"avi", "mjpg", "webm", "ogv", "mkv", "apng", "raw"};
-
-void addFormats(std::initializer_list<const char *> formats)
-{
-    QTest::addColumn<QString>("format");
-    for (const char *format : formats)
-        QTest::newRow(format) << QString(format);
-}
-
-void addEveryFormat()
-{
-    addFormats({"avi", "mjpg", "webm", "ogv", "mkv", "apng", "raw"});
-}
-
-struct Made
-{
-    QVariantMap result;
-    QString path;
-    QString error;
-    int refused = 0;
-
-    bool ok() const
-    {
-        return result.value("ok").toBool();
-    }
-    QString reason() const
-    {
-        return result.value("reason").toString();
-    }
-};
-
-} // namespace
 
 class TestQVideoEncoder : public QObject
 {
@@ -84,16 +40,6 @@ private slots:
     void pictureOfAnotherSizeIsRefused();
     void pictureOfAnotherFormatIsRefused();
     void nothingIsTakenBeforeAFileIsOpen();
-    void folderThatCannotBeWritten();
-    void movieThatCannotBeReplacedGetsAnotherName();
-    void growsUnderATemporaryName();
-    void earlierMovieStaysUntilTheNewOneIsWhole();
-    void interruptedMovieDoesNotReplaceAnEarlierOne();
-    void interruptedMovieCanBePlayed_data();
-    void interruptedMovieCanBePlayed();
-    void diskThatFillsUpIsToldAndWhatThereIsStays_data();
-    void diskThatFillsUpIsToldAndWhatThereIsStays();
-    void destroyedWithoutCloseKeepsNothingOpen();
     void qualityChangesTheFile();
     void webpSettingsAreReadByCreateFile();
 
@@ -102,7 +48,7 @@ private:
     {
         return folder->filePath("film");
     }
-    Made make(const QString &format, const QList<int> &marks, double fps = 12.5, const QString &effect = {});
+    Made make(const QString &format, const QList<int> &marks, double fps = 12.5);
 
     std::unique_ptr<QTemporaryDir> folder;
 };
@@ -112,20 +58,9 @@ void TestQVideoEncoder::init()
     folder = std::make_unique<QTemporaryDir>();
 }
 
-Made TestQVideoEncoder::make(const QString &format, const QList<int> &marks, double fps,
-                             const QString &effect)
+Made TestQVideoEncoder::make(const QString &format, const QList<int> &marks, double fps)
 {
-    QVideoEncoder encoder;
-    Made made;
-    made.result = encoder.createFile(base(), smallSize.width(), smallSize.height(), 2, fps, format,
-                                     !effect.isEmpty(), effect, static_cast<int>(marks.size()) - 1, false);
-    for (const int mark : marks) {
-        if (encoder.encodeImage(markedPicture(smallSize, mark)) < 0)
-            ++made.refused;
-    }
-    made.path = encoder.closeFile();
-    made.error = encoder.writeError();
-    return made;
+    return makeMovie(base(), format, marks, fps);
 }
 
 void TestQVideoEncoder::everyFormatHoldsEveryPictureAtItsTime_data()
@@ -419,7 +354,7 @@ void TestQVideoEncoder::effectsWithoutDescriptionFail()
 void TestQVideoEncoder::effectThatIsNotThereFails()
 {
     QTest::ignoreMessage(QtWarningMsg, "Filter did not pass the test: Filter not found");
-    const Made made = make("avi", {}, 25, "paintlikerembrandt=strength=1");
+    const Made made = makeMovie(base(), "avi", {}, 25, "paintlikerembrandt=strength=1");
     QCOMPARE(made.reason(), "Cannot apply post-process effects");
     QCOMPARE(made.path, QString());
     QVERIFY(QDir(folder->path()).isEmpty());
@@ -456,130 +391,6 @@ void TestQVideoEncoder::nothingIsTakenBeforeAFileIsOpen()
     encoder.closeFile();
     QVERIFY(!encoder.isOk());
     QCOMPARE(encoder.encodeImage(markedPicture(smallSize, 0)), -1);
-}
-
-void TestQVideoEncoder::folderThatCannotBeWritten()
-{
-    QVideoEncoder encoder;
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^try to avio_open2 Unknown error -2 .*"));
-    const QVariantMap result =
-        encoder.createFile(folder->filePath("none/film"), 64, 48, 2, 25, "webm", false, {}, 10, false);
-    QCOMPARE(result.value("ok").toBool(), false);
-    QVERIFY(result.value("reason").toString().startsWith("Unknown error -2 (No such file"));
-}
-
-void TestQVideoEncoder::movieThatCannotBeReplacedGetsAnotherName()
-{
-#ifdef Q_OS_UNIX
-    if (geteuid() == 0)
-        QSKIP("root may write everything");
-#endif
-    QFile locked(folder->filePath("film-uncompressed.avi"));
-    QVERIFY(locked.open(QIODevice::WriteOnly));
-    locked.setPermissions(QFile::ReadOwner);
-    const QString path = make("raw", {0, 1}).path;
-    QVERIFY2(QRegularExpression("/film.+-uncompressed\\.avi$").match(path).hasMatch(), qPrintable(path));
-}
-
-void TestQVideoEncoder::growsUnderATemporaryName()
-{
-    QVideoEncoder encoder;
-    QVERIFY(encoder.createFile(base(), 64, 48, 2, 25, "avi", false, {}, 10, false)["ok"].toBool());
-    QCOMPARE(QDir(folder->path()).entryList(QDir::Files), QStringList{"film.avi.part"});
-    encoder.encodeImage(markedPicture(smallSize, 0));
-    QCOMPARE(encoder.closeFile(), folder->filePath("film.avi"));
-    QCOMPARE(QDir(folder->path()).entryList(QDir::Files), QStringList{"film.avi"});
-}
-
-void TestQVideoEncoder::earlierMovieStaysUntilTheNewOneIsWhole()
-{
-    make("avi", {0, 0, 0});
-    QVideoEncoder encoder;
-    QVERIFY(encoder.createFile(base(), 64, 48, 2, 25, "avi", false, {}, 10, false)["ok"].toBool());
-    encoder.encodeImage(markedPicture(smallSize, 1));
-    QCOMPARE(MovieProbe(folder->filePath("film.avi")).frames().size(), 3);
-    encoder.closeFile();
-    QCOMPARE(MovieProbe(folder->filePath("film.avi")).frames().size(), 1);
-}
-
-void TestQVideoEncoder::interruptedMovieDoesNotReplaceAnEarlierOne()
-{
-    make("avi", {0, 0, 0});
-    QVideoEncoder encoder;
-    QVERIFY(encoder.createFile(base(), 64, 48, 2, 25, "avi", false, {}, 10, false)["ok"].toBool());
-    encoder.encodeImage(markedPicture(smallSize, 1));
-    encoder.markInterrupted();
-    const QString path = encoder.closeFile();
-    QVERIFY(path != folder->filePath("film.avi"));
-    QCOMPARE(MovieProbe(path).frames().size(), 1);
-    QCOMPARE(MovieProbe(folder->filePath("film.avi")).frames().size(), 3);
-}
-
-void TestQVideoEncoder::interruptedMovieCanBePlayed_data()
-{
-    addEveryFormat();
-}
-
-void TestQVideoEncoder::interruptedMovieCanBePlayed()
-{
-    QVideoEncoder encoder;
-    QVERIFY(encoder.createFile(base(), 64, 48, 2, 25, QTest::currentDataTag(), false, {}, 100, false)["ok"]
-                .toBool());
-    for (int i = 0; i < 30; ++i)
-        QVERIFY(encoder.encodeImage(markedPicture(smallSize, i)) >= 0);
-    encoder.markInterrupted();
-    const MovieProbe probe(encoder.closeFile());
-    QCOMPARE(encoder.writeError(), QString());
-    QCOMPARE(probe.frames().size(), 30);
-    QCOMPARE(markOf(probe.frames().last()), 29 % 7);
-}
-
-void TestQVideoEncoder::diskThatFillsUpIsToldAndWhatThereIsStays_data()
-{
-    addFormats({"avi", "webm", "raw"});
-}
-
-void TestQVideoEncoder::diskThatFillsUpIsToldAndWhatThereIsStays()
-{
-#ifdef Q_OS_UNIX
-    make(QTest::currentDataTag(), {4});
-    const QString earlier = QDir(folder->path()).entryInfoList(QDir::Files).first().filePath();
-    QVideoEncoder encoder;
-    QVERIFY(encoder.createFile(base(), 64, 48, 2, 25, QTest::currentDataTag(), false, {}, 900, false)["ok"]
-                .toBool());
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    rlimit full = before;
-    full.rlim_cur = 90000;
-    std::signal(SIGXFSZ, SIG_IGN);
-    setrlimit(RLIMIT_FSIZE, &full);
-    int written = 0;
-    while (written < 900) {
-        QImage picture = markedPicture(smallSize, written);
-        for (int i = 0; i < 700; ++i)
-            picture.setPixel((i * 37 + written) % 64, (i * 11) % 48, qRgb(i * 7 & 255, i * 13 & 255, 90));
-        if (encoder.encodeImage(picture) < 0)
-            break;
-        ++written;
-    }
-    const QString path = encoder.closeFile();
-    setrlimit(RLIMIT_FSIZE, &before);
-    QVERIFY2(written > 0 && written < 900, qPrintable(QString::number(written)));
-    QVERIFY2(encoder.writeError().contains("File too large"), qPrintable(encoder.writeError()));
-    QVERIFY(path != earlier);
-    QVERIFY(MovieProbe(path).frames().size() > 0);
-    QCOMPARE(MovieProbe(earlier).frames().size(), 1);
-#endif
-}
-
-void TestQVideoEncoder::destroyedWithoutCloseKeepsNothingOpen()
-{
-    {
-        QVideoEncoder encoder;
-        QVERIFY(encoder.createFile(base(), 64, 48, 2, 25, "avi", false, {}, 10, false)["ok"].toBool());
-        encoder.encodeImage(markedPicture(smallSize, 0));
-    }
-    QCOMPARE(QDir(folder->path()).entryList(QDir::Files), QStringList{"film.avi"});
 }
 
 void TestQVideoEncoder::qualityChangesTheFile()

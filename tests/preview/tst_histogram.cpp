@@ -1,6 +1,5 @@
-#include "preview/HistoCalc.h"
 #include "preview/Histogram.h"
-#include "preview/QChromaKey.h"
+#include "shared/HistoCalc.h"
 
 #include <algorithm>
 #include <numeric>
@@ -51,9 +50,6 @@ private slots:
     void smallerCoefficientMakesHigherBars();
     void nothingToDraw_data();
     void nothingToDraw();
-    void blendTypeHasItsCompositionMode_data();
-    void blendTypeHasItsCompositionMode();
-    void grayscaleComesBeforeBlending();
 };
 
 void TestHistogram::blackPictureHasAllMassInBin0()
@@ -218,52 +214,6 @@ void TestHistogram::nothingToDraw()
     QVERIFY(!histogram.barHeights(80).isEmpty());
     histogram.setRunning(false);
     QVERIFY(histogram.barHeights(80).isEmpty());
-}
-
-void TestHistogram::blendTypeHasItsCompositionMode_data()
-{
-    QTest::addColumn<int>("blend");
-    QTest::addColumn<int>("mode");
-    const auto row = [](const char *name, int blend, QPainter::CompositionMode mode) {
-        QTest::newRow(name) << blend << int(mode);
-    };
-    row("NoBlend", Zum::NoBlend, QPainter::CompositionMode_SourceOver);
-    row("BlendDarken", Zum::BlendDarken, QPainter::CompositionMode_Darken);
-    row("BlendMultiply", Zum::BlendMultiply, QPainter::CompositionMode_Multiply);
-    row("BlendColorBurn", Zum::BlendColorBurn, QPainter::CompositionMode_ColorBurn);
-    row("BlendLighten", Zum::BlendLighten, QPainter::CompositionMode_Lighten);
-    row("BlendScreen", Zum::BlendScreen, QPainter::CompositionMode_Screen);
-    row("BlendColorDodge", Zum::BlendColorDodge, QPainter::CompositionMode_ColorDodge);
-    row("BlendOverlay", Zum::BlendOverlay, QPainter::CompositionMode_Overlay);
-    row("BlendSoftLight", Zum::BlendSoftLight, QPainter::CompositionMode_Lighten);
-    row("BlendHardLight", Zum::BlendHardLight, QPainter::CompositionMode_HardLight);
-    row("BlendDifference", Zum::BlendDifference, QPainter::CompositionMode_Difference);
-    row("BlendExclusion", Zum::BlendExclusion, QPainter::CompositionMode_Exclusion);
-    row("BlendPlus", Zum::BlendPlus, QPainter::CompositionMode_Plus);
-    row("BlendXor", Zum::BlendXor, QPainter::CompositionMode_SourceOver);
-    row("unknown", 77, QPainter::CompositionMode_SourceOver);
-}
-
-void TestHistogram::blendTypeHasItsCompositionMode()
-{
-    QFETCH(int, blend);
-    QFETCH(int, mode);
-    QChromaKey effect;
-    effect.setBlend(blend);
-    QCOMPARE(effect.compositionMode(), mode);
-    QCOMPARE(effect.blending(), mode != QPainter::CompositionMode_SourceOver);
-    QCOMPARE(effect.active(), effect.blending());
-}
-
-void TestHistogram::grayscaleComesBeforeBlending()
-{
-    QChromaKey effect;
-    effect.setBlend(Zum::BlendMultiply);
-    effect.setGrayscale(true);
-    QVERIFY(effect.active());
-    QVERIFY(!effect.blending());
-    effect.setGrayscale(false);
-    QVERIFY(effect.blending());
 }
 
 QTEST_MAIN(TestHistogram)

@@ -155,14 +155,18 @@ struct ProjectWorld : QObject
                            {QStringLiteral("capTumb"), frameName(number, QStringLiteral("mini"))}},
                           true);
     }
+    /// Only a failure waits so long, or work on ten thousand frames under a sanitizer.
+    static constexpr int longestWaitMs = 60000;
+
     bool open(const QString &path)
     {
         return life.projectFileOpen(path) == Zum::FileIsOk
-               && QTest::qWaitFor([this] { return life.projectLoaded() && operation.isFree(); });
+               && QTest::qWaitFor([this] { return life.projectLoaded() && operation.isFree(); },
+                                  longestWaitMs);
     }
     bool waitFree()
     {
-        return QTest::qWaitFor([this] { return operation.isFree(); });
+        return QTest::qWaitFor([this] { return operation.isFree(); }, longestWaitMs);
     }
 
     QStringList rowNames() const

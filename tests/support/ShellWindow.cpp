@@ -83,6 +83,12 @@ void ShellWindow::build(const Options &options)
     };
     environment.systemLocale = options.locale;
     environment.logicalDpi = options.logicalDpi;
+    if (options.cameras)
+        environment.cameras = options.cameras();
+    else
+        environment.cameras.clock = std::make_shared<SystemCaptureClock>();
+    if (options.timeLapseTicker)
+        environment.timeLapseTicker = options.timeLapseTicker();
 
     m_window = std::make_unique<MainWindow>(std::make_unique<AppControllers>(std::move(environment)),
                                             options.arguments);

@@ -27,6 +27,10 @@ public:
         bool shown = true;
         /// A settings file to use instead of a fresh one.
         QString settingsPath;
+        /// The cameras that there are; the built-in one alone when empty.
+        std::function<CaptureEnvironment::Parts()> cameras;
+        /// The clock of the time-lapse tool.
+        std::function<std::unique_ptr<Ticker>()> timeLapseTicker;
     };
 
     ShellWindow();
@@ -57,7 +61,7 @@ public:
     {
         return *m_desktop;
     }
-    QQuickItem &root()
+    QQuickItem &root() const
     {
         return *m_window->rootObject();
     }

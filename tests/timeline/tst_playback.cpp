@@ -1,5 +1,7 @@
 #include "timeline/ModelSupport.h"
 
+#include <QRandomGenerator>
+
 namespace {
 
 /// Ten frames, of which the range from 2 to 6 plays.
@@ -63,6 +65,9 @@ private slots:
     void waitsWhileAnActionRuns();
     void showsNothingInNoDirection();
     void stopsWhenItsRowHasGone();
+    void logsThatTheRateIsNotAboveZero();
+    void showsTheRightNumberOfFramesInAMinute_data();
+    void showsTheRightNumberOfFramesInAMinute();
 };
 
 void tst_Playback::preparesBeforeItRuns()
@@ -388,6 +393,48 @@ void tst_Playback::stopsWhenItsRowHasGone()
     model->setTimelineRangeEnd(6);
     model->playTicker.tick(2);
     QVERIFY(!model->playing());
+}
+
+void tst_Playback::logsThatTheRateIsNotAboveZero()
+{
+    const auto model = rangedModel();
+    LogLines log;
+    model->setTimelineFps(0);
+    QCOMPARE(log.take(), QStringList{"Unable start playing. Timeline Fps = 0"});
+    QCOMPARE(model->interval(), 0.0);
+    model->play();
+    QVERIFY(model->paused() && !model->playing());
+}
+
+void tst_Playback::showsTheRightNumberOfFramesInAMinute_data()
+{
+    QTest::addColumn<int>("rate");
+    QTest::newRow("25 a second") << 25;
+    QTest::newRow("50 a second") << 50;
+}
+
+// Sixty seconds of a machine whose event loop is now and then late, up to several frames.
+void tst_Playback::showsTheRightNumberOfFramesInAMinute()
+{
+    QFETCH(int, rate);
+    constexpr int seconds = 60;
+    const auto model = rangedModel();
+    model->setTimelineFps(rate);
+    start(*model);
+    QSignalSpy shown(model.get(), &FramesModel::currentIndexChanged);
+    QRandomGenerator chance(2026);
+    TickSchedule schedule;
+    qint64 now = 12345;
+    schedule.start(now, model->playTicker.interval);
+    const qint64 end = now + seconds * 1000;
+    while (true) {
+        now += schedule.msToNext(now) + (chance.bounded(20) == 0 ? chance.bounded(110) : chance.bounded(4));
+        if (now > end)
+            break;
+        model->playTicker.tick(schedule.takeDue(now));
+    }
+    model->playTicker.tick(schedule.takeDue(end));
+    QVERIFY2(qAbs(int(shown.count()) - rate * seconds) <= 1, qPrintable(QString::number(shown.count())));
 }
 
 QTEST_GUILESS_MAIN(tst_Playback)

@@ -19,6 +19,9 @@ private slots:
     void splitsMilliseconds();
     void roundsToWholeFrames();
     void snapsWhenDiscrete();
+    void rewindsToTheStartWhereTheListEnds();
+    void keepsARangeOfOneFrame();
+    void comesBackToTheSamePixelOfEveryFrame();
 };
 
 void tst_Progress::computesPixelPositions()
@@ -170,6 +173,49 @@ void tst_Progress::snapsWhenDiscrete()
     progress.setRangeEnd(9.3);
     QCOMPARE(progress.current(), 5.0);
     QCOMPARE(progress.rangeEnd(), 9.0);
+}
+
+void tst_Progress::rewindsToTheStartWhereTheListEnds()
+{
+    Progress progress;
+    progress.setTotal(10);
+    progress.setAutoRewind(true);
+    progress.setCurrent(4);
+    QSignalSpy moved(&progress, &Progress::currentChanged);
+    progress.setCurrent(10);
+    QCOMPARE(progress.current(), 0.0);
+    QCOMPARE(moved.count(), 1);
+    // Without a total there is no end to reach.
+    Progress empty;
+    QSignalSpy ended(&empty, &Progress::reachedEnd);
+    empty.setCurrent(3);
+    QCOMPARE(ended.count(), 0);
+    QCOMPARE(empty.current(), 3.0);
+}
+
+void tst_Progress::keepsARangeOfOneFrame()
+{
+    Progress progress;
+    progress.setTotal(10);
+    progress.setRangeStart(5);
+    progress.setRangeEnd(5);
+    progress.setLockInRange(true);
+    for (const qreal value : {0.0, 5.0, 9.0}) {
+        progress.setCurrent(value);
+        QCOMPARE(progress.current(), 5.0);
+    }
+}
+
+void tst_Progress::comesBackToTheSamePixelOfEveryFrame()
+{
+    Progress progress;
+    progress.setTotal(50);
+    progress.setWidth(1000);
+    for (int frame = 0; frame <= 50; ++frame) {
+        progress.setCurrentX(frame * 20 + 7);
+        QCOMPARE(progress.current(), qreal(frame));
+        QCOMPARE(progress.currentX(), frame * 20.0);
+    }
 }
 
 QTEST_MAIN(tst_Progress)

@@ -86,3 +86,34 @@ void CaptureFacet::cameraConnected()
 {
     controllers().devices.rememberConnectedCamera(controllers().settings());
 }
+
+int CaptureFacet::addFileCamera()
+{
+    AppControllers &c = controllers();
+    const QString path = c.environment.dialogs->openFile(FileCameras::dialogCaption(), QString(),
+                                                         FileCameras::dialogFilter());
+    return path.isEmpty() ? -1 : tellUnlessAdded(c.capture.files().add(path));
+}
+
+int CaptureFacet::useFileAsCamera(const QString &path)
+{
+    return tellUnlessAdded(controllers().capture.files().addForThisRun(path));
+}
+
+int CaptureFacet::tellUnlessAdded(int index)
+{
+    AppControllers &c = controllers();
+    if (index < 0)
+        c.messages.post(Zum::CameraMessage, Zum::Warning, c.capture.files().errorString());
+    return index;
+}
+
+void CaptureFacet::removeFileCamera(int index)
+{
+    controllers().capture.files().remove(index);
+}
+
+bool CaptureFacet::isFileCamera(int index) const
+{
+    return !controllers().capture.files().path(index).isEmpty();
+}

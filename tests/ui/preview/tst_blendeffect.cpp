@@ -123,6 +123,10 @@ class TestBlendEffect : public QObject
 private slots:
     void initTestCase();
     void init();
+    void cleanup();
+    void blendTypeHasItsCompositionMode_data();
+    void blendTypeHasItsCompositionMode();
+    void grayscaleComesBeforeBlending();
     void blendTypeLooksAsPainted_data();
     void blendTypeLooksAsPainted();
     void opacitiesOfBothLayersCount_data();
@@ -134,6 +138,7 @@ private slots:
     void nothingToBlendMeansNoShader();
     void hiddenLayerEndsTheEffect();
     void effectIsABackdropForTheNext();
+    void zoomedViewGetsSharperLayers();
 
 private:
     QImage seen();
@@ -144,6 +149,7 @@ private:
     }
 
     std::unique_ptr<QQuickView> m_view;
+    QStringList m_warnings;
 };
 
 void TestBlendEffect::initTestCase()
@@ -154,6 +160,10 @@ void TestBlendEffect::initTestCase()
 void TestBlendEffect::init()
 {
     m_view = std::make_unique<QQuickView>();
+    connect(m_view->engine(), &QQmlEngine::warnings, this, [this](const QList<QQmlError> &warnings) {
+        for (const QQmlError &warning : warnings)
+            m_warnings.append(warning.toString());
+    });
     m_view->engine()->addImageProvider(QStringLiteral("layers"), new LayerPictures);
     auto *component = new QQmlComponent(m_view->engine(), m_view.get());
     component->setData(
@@ -181,6 +191,12 @@ void TestBlendEffect::init()
     QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
 }
 
+void TestBlendEffect::cleanup()
+{
+    m_view.reset();
+    QCOMPARE(m_warnings, QStringList());
+}
+
 void TestBlendEffect::set(const char *name, const QVariant &value)
 {
     QVERIFY(item("effect")->setProperty(name, value));
@@ -191,6 +207,52 @@ QImage TestBlendEffect::seen()
     const QSharedPointer<QQuickItemGrabResult> grab = item("all")->grabToImage();
     QSignalSpy ready(grab.data(), &QQuickItemGrabResult::ready);
     return ready.wait() ? grab->image().convertToFormat(QImage::Format_ARGB32_Premultiplied) : QImage();
+}
+
+void TestBlendEffect::blendTypeHasItsCompositionMode_data()
+{
+    QTest::addColumn<int>("blend");
+    QTest::addColumn<int>("mode");
+    const auto row = [](const char *name, int blend, QPainter::CompositionMode mode) {
+        QTest::newRow(name) << blend << int(mode);
+    };
+    row("NoBlend", Zum::NoBlend, QPainter::CompositionMode_SourceOver);
+    row("BlendDarken", Zum::BlendDarken, QPainter::CompositionMode_Darken);
+    row("BlendMultiply", Zum::BlendMultiply, QPainter::CompositionMode_Multiply);
+    row("BlendColorBurn", Zum::BlendColorBurn, QPainter::CompositionMode_ColorBurn);
+    row("BlendLighten", Zum::BlendLighten, QPainter::CompositionMode_Lighten);
+    row("BlendScreen", Zum::BlendScreen, QPainter::CompositionMode_Screen);
+    row("BlendColorDodge", Zum::BlendColorDodge, QPainter::CompositionMode_ColorDodge);
+    row("BlendOverlay", Zum::BlendOverlay, QPainter::CompositionMode_Overlay);
+    row("BlendSoftLight", Zum::BlendSoftLight, QPainter::CompositionMode_Lighten);
+    row("BlendHardLight", Zum::BlendHardLight, QPainter::CompositionMode_HardLight);
+    row("BlendDifference", Zum::BlendDifference, QPainter::CompositionMode_Difference);
+    row("BlendExclusion", Zum::BlendExclusion, QPainter::CompositionMode_Exclusion);
+    row("BlendPlus", Zum::BlendPlus, QPainter::CompositionMode_Plus);
+    row("BlendXor", Zum::BlendXor, QPainter::CompositionMode_SourceOver);
+    row("unknown", 77, QPainter::CompositionMode_SourceOver);
+}
+
+void TestBlendEffect::blendTypeHasItsCompositionMode()
+{
+    QFETCH(int, blend);
+    QFETCH(int, mode);
+    QChromaKey effect;
+    effect.setBlend(blend);
+    QCOMPARE(effect.compositionMode(), mode);
+    QCOMPARE(effect.blending(), mode != QPainter::CompositionMode_SourceOver);
+    QCOMPARE(effect.active(), effect.blending());
+}
+
+void TestBlendEffect::grayscaleComesBeforeBlending()
+{
+    QChromaKey effect;
+    effect.setBlend(Zum::BlendMultiply);
+    effect.setGrayscale(true);
+    QVERIFY(effect.active());
+    QVERIFY(!effect.blending());
+    effect.setGrayscale(false);
+    QVERIFY(effect.blending());
 }
 
 void TestBlendEffect::blendTypeLooksAsPainted_data()
@@ -296,6 +358,21 @@ void TestBlendEffect::effectIsABackdropForTheNext()
         painter.drawImage(0, 0, layerPicture(true));
     }
     QCOMPARE(difference(seen(), wanted), QByteArray());
+}
+
+void TestBlendEffect::zoomedViewGetsSharperLayers()
+{
+    set("blend", Zum::BlendMultiply);
+    set("zoom", 2);
+    int textures = 0;
+    const QList<QQuickItem *> below = item("effect")->findChildren<QQuickItem *>();
+    for (const QQuickItem *child : below) {
+        if (!child->inherits("QQuickShaderEffectSource"))
+            continue;
+        QCOMPARE(child->property("textureSize").toSize(), QSize(2 * side, 2 * side));
+        ++textures;
+    }
+    QCOMPARE(textures, 2);
 }
 
 QTEST_MAIN(TestBlendEffect)

@@ -33,6 +33,7 @@ private slots:
     void backgroundFollowsItsState();
     void settingsOfAProjectAreShown();
     void histogramShowsItsTallestChannelAtTheBack();
+    void histogramDrawsItsBars();
     void histogramTakesDataOnlyWhileRunning();
     void histogramHeightIsShownInPerCent();
     void histogramChannelsAreRemembered();
@@ -306,6 +307,38 @@ void TestFilterScreens::histogramShowsItsTallestChannelAtTheBack()
         return child(pane.get(), a)->z() < child(pane.get(), b)->z();
     });
     QCOMPARE(backToFront, QStringList({u"histogramR"_s, u"histogramB"_s, u"histogramY"_s, u"histogramG"_s}));
+}
+
+void TestFilterScreens::histogramDrawsItsBars()
+{
+    const std::unique_ptr<QQuickItem> pane = makeHistogram();
+    QVERIFY(pane);
+    pane->setZ(5000);
+    pane->setWidth(256 + 200);
+    QQuickItem *red = child(pane.get(), u"histogramR"_s);
+    const auto barColor = [&](qreal alongWidth, qreal alongHeight) {
+        const QPointF place =
+            red->mapToScene(QPointF(red->width() * alongWidth, red->height() * alongHeight));
+        const QImage shot = m_shell->window().grabWindow();
+        return shot.pixelColor((place * shot.width() / m_shell->window().width()).toPoint());
+    };
+    // Full bars in the left half, half of that in the third quarter, none in the last.
+    QVariantList list;
+    for (int i = 0; i < 256; ++i)
+        list.append(i < 128 ? 0.01 : i < 192 ? 0.005 : 0.0);
+    list.append(0.01);
+    pane->setProperty("histogramDataR", list);
+    const auto isRed = [](const QColor &color) {
+        return color.red() > color.blue() + 60;
+    };
+    QTRY_VERIFY(isRed(barColor(0.25, 0.1)));
+    QVERIFY(isRed(barColor(0.6, 0.8)));
+    QVERIFY(!isRed(barColor(0.6, 0.3)));
+    QVERIFY(!isRed(barColor(0.9, 0.95)));
+    pane->setProperty("maxCoeff", 0.5);
+    QTRY_VERIFY(isRed(barColor(0.6, 0.1)));
+    pane->setProperty("running", false);
+    QTRY_VERIFY(!isRed(barColor(0.25, 0.9)));
 }
 
 void TestFilterScreens::histogramTakesDataOnlyWhileRunning()

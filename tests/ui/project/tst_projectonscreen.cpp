@@ -163,8 +163,8 @@ void TestProjectOnScreen::duplicateMakesAsManyAsAsked()
 {
     makeFilm(3);
     d->clickFrame(1);
-    d->clickLabel("Increase How many copies each frame gets");
-    d->clickLabel("Increase How many copies each frame gets");
+    d->clickTip("How many copies each frame gets");
+    d->clickTip("Copies: 3");
     QCOMPARE(d->frames().duplicateQuantity(), 3);
     d->clickTip("Duplicate (3)  ");
     QVERIFY(d->waitIdle());

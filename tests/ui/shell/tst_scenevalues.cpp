@@ -89,8 +89,9 @@ void TestSceneValues::typesAreRegisteredInTheirOrder()
 {
     ShellWindow shell;
     int before = -1;
-    for (const char *name : {"Progress", "Histogram", "Zum", "WheelArea", "CursorShapeArea", "Aslider",
-                             "QNumImput", "QChromaKey"}) {
+    for (const char *name :
+         {"Progress", "Histogram", "CRamPreview", "Zum", "WheelArea", "CursorShapeArea", "Aslider",
+          "QNumImput", "QChromaKey", "RowBand", "TimelineIndicator"}) {
         const int id = qmlTypeId(name, 1, 0, name);
         QVERIFY2(id > before, name);
         before = id;
@@ -101,7 +102,7 @@ void TestSceneValues::typesAreRegisteredInTheirOrder()
     }
     // These stand in the same row as soon as there is something behind them.
     for (const char *name :
-         {"WebCamera", "CRamPreview", "CycloBarC", "PathRenderer", "BufferPlayer", "QmlVideo", "CanonCamera"})
+         {"WebCamera", "CycloBarC", "PathRenderer", "BufferPlayer", "QmlVideo", "CanonCamera"})
         QVERIFY2(qmlTypeId(name, 1, 0, name) == -1, name);
 }
 

@@ -30,21 +30,22 @@ private:
 
 namespace {
 
-const QStringList captureShows{"screenArea", "timelineBox", "displayContainer", "controlsPanesBox",
-                               "statusBar",  "toggleRow",   "maximizedBtn",     "showHideRightPanel"};
+const QStringList captureShows{"screenArea",       "timelineBox",        "displayContainer",
+                               "controlsPanesBox", "statusBar",          "toggleRow",
+                               "maximizedBtn",     "showHideRightPanel", "screenControls"};
 const QStringList captureHides{"ramPreviewContainer", "videoPreviewContainer", "docsView"};
-const QStringList timingShows{"screenArea",     "controlsPanesBox", "timelineBox",
-                              "mainControlBox", "maximizedBtn",     "ramPreviewContainer",
-                              "statusBar",      "toggleRow",        "showHideRightPanel"};
+const QStringList timingShows{"screenArea",         "controlsPanesBox",    "timelineBox", "mainControlBox",
+                              "maximizedBtn",       "ramPreviewContainer", "statusBar",   "toggleRow",
+                              "showHideRightPanel", "screenControls"};
 const QStringList timingHides{"displayContainer", "videoPreviewContainer", "docsView"};
 const QStringList videoShows{"screenArea", "mainControlBox", "videoPreviewContainer", "toggleRow",
                              "maximizedBtn"};
-const QStringList videoHides{"timelineBox", "displayContainer", "ramPreviewContainer", "statusBar",
-                             "docsView"};
+const QStringList videoHides{"timelineBox", "displayContainer", "ramPreviewContainer",
+                             "statusBar",   "docsView",         "screenControls"};
 const QStringList docsShows{"docsView", "toggleRow"};
-const QStringList docsHides{"screenArea",       "controlsPanesBox",     "ramPreviewContainer", "timelineBox",
-                            "mainControlBox",   "maximizedBtn",         "showHideRightPanel",  "statusBar",
-                            "displayContainer", "videoPreviewContainer"};
+const QStringList docsHides{"screenArea",       "controlsPanesBox",      "ramPreviewContainer", "timelineBox",
+                            "mainControlBox",   "maximizedBtn",          "showHideRightPanel",  "statusBar",
+                            "displayContainer", "videoPreviewContainer", "screenControls"};
 const QStringList besideThePicture{"controlsPanesBox", "statusBar", "mainControlBox", "showHideRightPanel"};
 
 QStringList without(QStringList all, const QStringList &gone)
@@ -87,7 +88,8 @@ void TestTabs::state_data()
         << without(timingShows, besideThePicture) << timingHides + besideThePicture;
     QTest::newRow("playbackUIisOn_compacted")
         << without(videoShows, besideThePicture) << videoHides + besideThePicture;
-    const QStringList allButThePicture = besideThePicture + QStringList{"timelineBox", "toggleRow"};
+    const QStringList allButThePicture =
+        besideThePicture + QStringList{"timelineBox", "toggleRow", "screenControls"};
     QTest::newRow("captureUIisOn_maximized")
         << without(captureShows, allButThePicture) << captureHides + allButThePicture;
     QTest::newRow("timingUIisOn_maximized")
@@ -137,42 +139,56 @@ void TestTabs::state()
 
 void TestTabs::enteringATabSetsTheRestOfTheProgram_data()
 {
+    QTest::addColumn<QString>("tabState");
     QTest::addColumn<int>("tab");
     QTest::addColumn<bool>("paused");
     QTest::addColumn<bool>("playerPaused");
     QTest::addColumn<bool>("ramPaused");
     QTest::addColumn<bool>("endsStackAndFlipFlop");
-    QTest::newRow("captureUIisOn") << int(Zum::CaptureTab) << false << true << true << false;
-    QTest::newRow("timingUIisOn") << int(Zum::TimingTab) << true << true << false << true;
-    QTest::newRow("playbackUIisOn") << int(Zum::VideoTab) << true << false << true << true;
-    QTest::newRow("docsUIisOn") << int(Zum::DocsTab) << true << true << true << true;
+    QTest::addColumn<bool>("stacks");
+    for (const bool stacks : {true, false}) {
+        const char *with = stacks ? "onion skin" : "flip-flop";
+        const auto row = [&](const char *state) -> QTestData & {
+            return QTest::addRow("%s with %s", state, with) << QString::fromLatin1(state);
+        };
+        row("captureUIisOn") << int(Zum::CaptureTab) << false << true << true << false << stacks;
+        row("timingUIisOn") << int(Zum::TimingTab) << true << true << false << true << stacks;
+        row("playbackUIisOn") << int(Zum::VideoTab) << true << false << true << true << stacks;
+        row("docsUIisOn") << int(Zum::DocsTab) << true << true << true << true << stacks;
+    }
 }
 
 void TestTabs::enteringATabSetsTheRestOfTheProgram()
 {
+    QFETCH(QString, tabState);
     QFETCH(int, tab);
     QFETCH(bool, paused);
     QFETCH(bool, playerPaused);
     QFETCH(bool, ramPaused);
     QFETCH(bool, endsStackAndFlipFlop);
+    QFETCH(bool, stacks);
     ShellWindow shell;
     WebcamGlobal &global = shell.global();
     global.setMainTabsState(tab == Zum::DocsTab ? "captureUIisOn" : "docsUIisOn");
     global.setPaused(!paused);
     global.setPlayerPaused(!playerPaused);
     global.setRamPaused(!ramPaused);
-    global.setStackMode(Zum::StackPast);
-    global.setFlipFlop(Zum::FadeFlipFlop);
+    // Each would end the other.
+    if (stacks)
+        global.setStackMode(Zum::StackPast);
+    else
+        global.setFlipFlop(Zum::FadeFlipFlop);
     global.setVideoExtractorOn(true);
     global.setLayersSettingsOn(true);
 
-    global.setMainTabsState(QTest::currentDataTag());
+    global.setMainTabsState(tabState);
     QCOMPARE(global.currentActiveTab(), tab);
     QCOMPARE(global.paused(), paused);
     QCOMPARE(global.playerPaused(), playerPaused);
     QCOMPARE(global.ramPaused(), ramPaused);
-    QCOMPARE(global.stackMode(), endsStackAndFlipFlop ? int(Zum::NoStack) : int(Zum::StackPast));
-    QCOMPARE(global.flipFlop(), endsStackAndFlipFlop ? int(Zum::NoFlipFlop) : int(Zum::FadeFlipFlop));
+    QCOMPARE(global.stackMode(), stacks && !endsStackAndFlipFlop ? int(Zum::StackPast) : int(Zum::NoStack));
+    QCOMPARE(global.flipFlop(),
+             stacks || endsStackAndFlipFlop ? int(Zum::NoFlipFlop) : int(Zum::FadeFlipFlop));
     QCOMPARE(global.videoExtractorOn(), tab != Zum::VideoTab);
     QCOMPARE(global.montageMode(), tab == Zum::TimingTab);
     QVERIFY(!global.layersSettingsOn());

@@ -1,23 +1,14 @@
 import QtQuick
 import Zum 1.0
 
-// The timeline: a row of controls and the strip of frames. Holds no frame data; everything goes to the model.
-Rectangle {
-    id: timelineBox
+// What the timeline's buttons, keys and drags do with frames. Everything goes to the model.
+QtObject {
+    id: commands
 
-    required property var scene
-    property bool compactMode: false
-    property bool rangeControlVisible: false
-
+    required property var timeline
     readonly property bool allowAdd: MainWindow.projectLoaded && !FramesModel.playing
     readonly property bool allowManipulate: FramesModel.framesCount > 0 && !FramesModel.playing
                                             && (FramesModel.selectedCount > 0 || FramesModel.pointedGuid >= 0)
-    // Without a project there is only a line of text to show.
-    readonly property int wantedHeight: compactMode
-        ? 140
-        : !MainWindow.projectLoaded
-        ? DefFontSizeNormal_x4
-        : Math.min(MainWindow.timelineH * (WebcamGlobal.timelineCompact ? 0.78 : 1), parent.height * 0.36)
 
     function copyFrames() {
         arm(true);
@@ -68,7 +59,13 @@ Rectangle {
         FramesModel.emitChanged(0);
     }
 
+    function forgetBuffer() {
+        FramesModel.copyModeOn = false;
+        FramesModel.cutModeOn = false;
+    }
+
     function moveFrames() {
+        timeline.getCurrentMiddleFrame();
         FramesModel.actionOnSelectedFrames(Zum.ActMoveFrames);
     }
 
@@ -80,9 +77,14 @@ Rectangle {
     function dublicateFrames() {
         if (!allowManipulate)
             return;
+        selectCurrentIfNone();
+        FramesModel.actionOnSelectedFrames(Zum.ActDuplicateFrames);
+    }
+
+    // For the actions that only know the selection.
+    function selectCurrentIfNone() {
         if (FramesModel.selectedCount === 0)
             FramesModel.switchSelectionOnSingleFrame(FramesModel.currentIndex);
-        FramesModel.actionOnSelectedFrames(Zum.ActDuplicateFrames);
     }
 
     // The first press arms, the second deletes.
@@ -97,6 +99,39 @@ Rectangle {
             FramesModel.timelineChanged(Zum.ActDelete);
     }
 
+    function cancelDeletion() {
+        FramesModel.deletionConfirmed = false;
+    }
+
+    function hideFrames() {
+        if (FramesModel.selectedCount > 0)
+            FramesModel.setSelectedVisibility();
+        else
+            FramesModel.hideCurrentFrame();
+    }
+
+    function mirrorFrames() {
+        if (FramesModel.selectedCount > 0)
+            FramesModel.setSelectedMirrored();
+        else
+            FramesModel.switchMirroredOnSingleFrame(FramesModel.currentIndex);
+    }
+
+    function clearCaptured() {
+        selectCurrentIfNone();
+        FramesModel.cleanSelectedCapFrames();
+    }
+
+    function clearReference() {
+        selectCurrentIfNone();
+        FramesModel.cleanSelectedRefFrames();
+    }
+
+    function clearAll() {
+        selectCurrentIfNone();
+        FramesModel.cleanSelectedFrames();
+    }
+
     function addEmptyFrame() {
         if (FramesModel.addInsteadOfReplace || FramesModel.framesCount === 0) {
             FramesModel.appendFrame({}, false, FramesModel.currentIndex);
@@ -108,8 +143,11 @@ Rectangle {
 
     function dismiss() {
         FramesModel.dismiss();
-        FramesModel.copyModeOn = false;
-        FramesModel.cutModeOn = false;
+        forgetBuffer();
+    }
+
+    function searchStaticness() {
+        FramesModel.searchStaticness(0, FramesModel.last());
     }
 
     // While an action runs, the frame that the user points at cannot follow the current row.
@@ -119,96 +157,35 @@ Rectangle {
             FramesModel.pointedGuid = FramesModel.get(FramesModel.currentIndex, false).guid;
     }
 
-    function searchStaticness() {
-        FramesModel.searchStaticness(0, FramesModel.last());
-    }
-
-    color: GlobalDarkerColor
-
-    Connections {
-        target: WebcamGlobal
-        enabled: timelineBox.visible
-
-        function onTimelineGotoStart() {
-            FramesModel.currentIndex = 0;
+    // Over the strip from one row to another: selects the rows between or, with Alt, moves frames or, with Ctrl
+    // too, copies of them.
+    function drag(from, to, modifiers) {
+        if (WebcamGlobal.timelineInteractive) {
+            FramesModel.addRangeToGroup(from, to);
+            return;
         }
-
-        function onTimelineGotoEnd() {
-            FramesModel.currentIndex = FramesModel.last();
-        }
-
-        function onTimelinePrevFrame() {
-            FramesModel.currentIndex = FramesModel.currentIndex - 1;
-        }
-
-        function onTimelineNextFrame() {
-            FramesModel.currentIndex = FramesModel.currentIndex + 1;
-        }
-
-        function onTimelineSelectFrame() {
-            FramesModel.switchSelectionOnSingleFrame(FramesModel.currentIndex);
-        }
-
-        function onTimelineDeleteFrames() {
-            timelineBox.deleteFrames();
-        }
-
-        function onTimelineFrameDuplicate() {
-            timelineBox.dublicateFrames();
-        }
-
-        function onTimelineDismiss() {
-            timelineBox.dismiss();
-        }
-
-        function onTimelineShowAddBox() {
-            if (controls.item)
-                controls.item.openAddBox();
+        const copies = modifiers & Qt.ControlModifier;
+        if (FramesModel.selectedCount > 0 && FramesModel.get(from, false).ingroup) {
+            FramesModel.currentIndex = to;
+            if (copies)
+                dublicateAndMoveFrames();
+            else
+                moveFrames();
+        } else if (copies) {
+            FramesModel.duplicateSingleFrame(from, Zum.CaptureModeAppend, to, true);
+        } else {
+            FramesModel.moveSingleFrame(from, to, true);
         }
     }
 
-    Connections {
-        target: FramesModel
-
-        function onTimelineChanged(action) {
-            if (action < 1024)
-                timelineBox.searchStaticness();
+    function pick(row, modifiers) {
+        if (modifiers & Qt.ShiftModifier) {
+            timeline.scene.addToGroup(row);
+        } else if (modifiers & Qt.ControlModifier) {
+            FramesModel.switchSelectionOnSingleFrame(row);
+        } else {
+            WebcamGlobal.globalDismiss();
+            FramesModel.currentIndex = row;
         }
-
-        function onCurrentActionChanged() {
-            if (FramesModel.currentAction === Zum.ActNoAction)
-                timelineBox.pointAtCurrent();
-        }
-
-        function onLoadedChanged() {
-            timelineBox.pointAtCurrent();
-        }
-
-        function onDublicateAndMoveFrames() {
-            timelineBox.dublicateAndMoveFrames();
-        }
-    }
-
-    // Without a project none of them could do anything.
-    Loader {
-        id: controls
-
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.top: parent.top
-        active: MainWindow.projectLoaded
-        visible: !timelineBox.compactMode
-        height: visible && item ? item.implicitHeight : 0
-        sourceComponent: TimelineControls {
-            timeline: timelineBox
-        }
-    }
-
-    TimelineStrip {
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.top: controls.bottom
-        anchors.bottom: parent.bottom
-        timeline: timelineBox
     }
 }

@@ -1,4 +1,4 @@
-#include "preview/HistoCalc.h"
+#include "shared/HistoCalc.h"
 
 #include <algorithm>
 #include <array>

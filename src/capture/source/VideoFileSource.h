@@ -1,0 +1,29 @@
+#pragma once
+
+#include "capture/source/FramePacer.h"
+#include "capture/source/VideoSource.h"
+
+#include <opencv2/videoio.hpp>
+#include <QString>
+
+/// A movie that stands in for a camera: it runs at its own rate and begins anew at its end. It has no
+/// properties but its size, which cannot be changed.
+class VideoFileSource : public VideoSource
+{
+public:
+    VideoFileSource(QString path, std::shared_ptr<CaptureClock> clock);
+
+    bool open() override;
+    bool isOpened() const override;
+    bool read(cv::Mat &picture) override;
+    bool set(int property, double value) override;
+    double get(int property) override;
+    void close() override;
+
+private:
+    bool readOn(cv::Mat &picture);
+
+    QString m_path;
+    FramePacer m_pacer;
+    cv::VideoCapture m_capture;
+};

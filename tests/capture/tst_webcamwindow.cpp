@@ -1,0 +1,679 @@
+#include "capture/LiveViewItem.h"
+#include "capture/OsSpecific.h"
+#include "capture/webcam/WebCamEvent.h"
+#include "WebcamBench.h"
+
+#include <algorithm>
+#include <QMetaProperty>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QRegularExpression>
+#include <thread>
+
+class TestWebCamWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void startsWithTheDefaults();
+    void connectingTellsSoAndIsBusyUntilTheFirstPicture();
+    void aSecondConnectionIsRefused();
+    void anIndexWithoutDeviceSaysSoAtOnce();
+    void aDeviceThatDeliversNothingIsGivenUpAfterElevenAndAHalfSeconds();
+    void aDeviceThatDeliversLateConnects();
+    void fiveFailedPassesEndTheConnection();
+    void fourFailedPassesDoNot();
+    void aLostCameraSaysWhatIsSafeAndConnectsAgain();
+    void withoutGlobalTheConnectionGoesOn();
+    void disconnectingClearsEverything();
+    void disconnectingWhileConnectingGivesUpSoon();
+    void aThreadThatTakesItsTimeIsWaitedFor();
+    void destroyingWhileConnectedEndsTheThread();
+    void aConnectionWithoutEnvironmentFindsNoCamera();
+
+    void theRateIsMeasuredEveryFourSeconds();
+    void aRateWithoutValueIsTold();
+    void aPauseKeepsTheConnectionAndStopsTheCamera();
+    void aChangeOfPaceWhilePausedWaitsForTheEnd();
+    void pausingWithoutThreadDoesNothing();
+    void powerFactorsAndWhatTheyDo_data();
+    void powerFactorsAndWhatTheyDo();
+    void powerFactorFiveHundredChangesNothing();
+
+    void propertiesGoByTheirNumbers_data();
+    void propertiesGoByTheirNumbers();
+    void aNegativeValueReadsTheProperty();
+    void aPropertyThatIsNotTakenComesBackAsMinusOne();
+    void automaticPropertiesAreReadBack();
+    void propertiesOutOfRangeDoNothing();
+    void propertiesAreIgnoredWhilePaused();
+    void theSettingsDialogIsTheDriversOwn();
+
+    void aFrameSizeThatIsNotOfferedComesBackAsTheRealOne();
+    void theSizeGoesToTheGlobalStateAndTheItem();
+    void aNewSizeAppliesTurnGrayAndSmoothAgain();
+    void theHistogramComesAboutOnceASecond();
+    void noHistogramUnlessWanted();
+    void eventsOfTheSharedVocabulary();
+    void messagesArePrintedInQuotes();
+    void theSceneGivesItsEnvironmentByName();
+    void theSceneKnowsTheseNames();
+
+private:
+    void send(int number, const QVariant &value = {})
+    {
+        WebCamEvent event(number, value);
+        QCoreApplication::sendEvent(bench->window.get(), &event);
+    }
+    std::unique_ptr<WebcamBench> bench;
+};
+
+void TestWebCamWindow::init()
+{
+    bench = std::make_unique<WebcamBench>();
+}
+
+void TestWebCamWindow::cleanup()
+{
+    bench.reset();
+}
+
+void TestWebCamWindow::startsWithTheDefaults()
+{
+    WebCamWindow window;
+    QCOMPARE(window.size(), QSizeF(540, 360));
+    QCOMPARE(window.coordSystemWidth(), 99.0);
+    QCOMPARE(window.coordSystemHeight(), 99.0);
+    QCOMPARE(window.availWidth(), 10);
+    QCOMPARE(window.availHeight(), 10);
+    QCOMPARE(window.fps(), 0);
+    QCOMPARE(window.powerFactor(), 0);
+    QCOMPARE(window.zoomFactor(), 1);
+    QVERIFY(window.renderSmooth() && window.histogramOn() && window.focusFrameOn());
+    QVERIFY(!window.connected() && !window.busy() && !window.paused() && !window.rotate());
+    QVERIFY(!window.grayscale() && !window.eyedropperOn() && !window.threadIsRunning());
+    QVERIFY(window.firmWareVer().isEmpty() && window.histogramDataY().isEmpty());
+}
+
+void TestWebCamWindow::connectingTellsSoAndIsBusyUntilTheFirstPicture()
+{
+    bench->machine.camera->onRead([](int, cv::Mat &) { return false; });
+    bench->window->connects();
+    QVERIFY(bench->told(Zum::Info, "Connecting..."));
+    QVERIFY(bench->window->busy() && bench->global.busy() && bench->window->threadIsRunning());
+    bench->machine.camera->onRead(ScriptedCamera::plain(64, 48));
+    QTRY_VERIFY(bench->window->connected() || !bench->window->threadIsRunning());
+    QTRY_VERIFY(!bench->window->busy() && !bench->global.busy());
+}
+
+void TestWebCamWindow::aSecondConnectionIsRefused()
+{
+    QVERIFY(bench->connectCamera());
+    const auto told = bench->messages.size();
+    QTest::ignoreMessage(QtDebugMsg, "Cannot start - thread is already running");
+    bench->window->connects(true);
+    QCOMPARE(bench->messages.size(), told);
+}
+
+void TestWebCamWindow::anIndexWithoutDeviceSaysSoAtOnce()
+{
+    bench->machine.camera->opens = false;
+    bench->window->connects();
+    QVERIFY(bench->waitForEnd());
+    QVERIFY(bench->told(Zum::Error, WebcamBench::notPresent()));
+    QCOMPARE(bench->machine.clock->waitedMs(), 0);
+    QCOMPARE(bench->machine.camera->closed.load(), 1);
+    QVERIFY(!bench->window->busy() && !bench->global.busy());
+}
+
+void TestWebCamWindow::aDeviceThatDeliversNothingIsGivenUpAfterElevenAndAHalfSeconds()
+{
+    bench->machine.camera->onRead([](int, cv::Mat &) { return false; });
+    bench->window->connects();
+    QVERIFY(bench->waitForEnd());
+    QCOMPARE(bench->machine.clock->waitedMs(), 20 * 500 + 1500);
+    QCOMPARE(bench->machine.camera->readings.load(), 22);
+    QVERIFY(bench->told(Zum::Error, WebcamBench::notPresent()));
+    QVERIFY(!bench->window->connected());
+}
+
+void TestWebCamWindow::aDeviceThatDeliversLateConnects()
+{
+    const auto late = [plain = ScriptedCamera::plain(64, 48)](int reading, cv::Mat &picture) {
+        return reading >= 20 && plain(reading, picture);
+    };
+    bench->machine.camera->onRead(late);
+    QVERIFY(bench->connectCamera());
+    QCOMPARE(bench->machine.clock->waitedMs(), 20 * 500);
+}
+
+void TestWebCamWindow::fiveFailedPassesEndTheConnection()
+{
+    QVERIFY(bench->connectCamera());
+    std::atomic<int> failed = 0;
+    bench->machine.camera->onRead([&](int, cv::Mat &) {
+        ++failed;
+        return false;
+    });
+    QVERIFY(bench->waitForEnd());
+    QCOMPARE(failed.load(), 5);
+    QVERIFY(bench->told(Zum::Error, WebcamBench::notPresent()));
+    QVERIFY(!bench->window->connected());
+    QCOMPARE(bench->window->fps(), 0);
+}
+
+void TestWebCamWindow::fourFailedPassesDoNot()
+{
+    QVERIFY(bench->connectCamera());
+    std::atomic<int> readings = 0;
+    bench->machine.camera->onRead([&readings, plain = ScriptedCamera::plain(64, 48)](int, cv::Mat &picture) {
+        return ++readings % 5 == 0 && plain(readings, picture);
+    });
+    QTRY_VERIFY(readings > 30);
+    QVERIFY(bench->window->connected());
+    QVERIFY(!bench->told(Zum::Error, WebcamBench::notPresent()));
+}
+
+void TestWebCamWindow::aLostCameraSaysWhatIsSafeAndConnectsAgain()
+{
+    QSignalSpy lost(bench->window.get(), &WebCamWindow::cameraLost);
+    QVERIFY(bench->connectCamera());
+    bench->machine.camera->onRead([](int, cv::Mat &) { return false; });
+    QTRY_COMPARE(lost.size(), 1);
+    QVERIFY(bench->told(Zum::Info,
+                        "The camera is gone. Everything shot so far is in the project. Connect again "
+                        "to go on where it stopped"));
+    QVERIFY(bench->waitForEnd());
+    bench->machine.camera->onRead(ScriptedCamera::plain(64, 48));
+    QVERIFY(bench->connectCamera());
+    QSignalSpy saved(bench->window.get(), &WebCamWindow::frameSaved);
+    bench->shoot();
+    QTRY_COMPARE(saved.size(), 1);
+    QVERIFY(bench->disconnectCamera());
+    QCOMPARE(lost.size(), 1);
+}
+
+void TestWebCamWindow::withoutGlobalTheConnectionGoesOn()
+{
+    bench->window->setGlobal(nullptr);
+    QTest::ignoreMessage(QtDebugMsg, "WebCamWindow::init failed to conect to global");
+    QVERIFY(bench->connectCamera());
+    emit bench->global.webCameraProperty(Zum::WebcamZoom, 5);
+    bench->shoot();
+    QSignalSpy saved(bench->window.get(), &WebCamWindow::frameSaved);
+    QVERIFY(saved.wait());
+    const auto sets = bench->machine.camera->sets();
+    QVERIFY(std::none_of(sets.begin(), sets.end(), [](const auto &set) { return set.first == 27; }));
+}
+
+void TestWebCamWindow::disconnectingClearsEverything()
+{
+    QVERIFY(bench->connectCamera());
+    QSignalSpy firmWare(bench->window.get(), &WebCamWindow::firmWareVerChanged);
+    QSignalSpy fps(bench->window.get(), &WebCamWindow::fpsChanged);
+    QSignalSpy connection(bench->window.get(), &WebCamWindow::connectedChanged);
+    QTest::ignoreMessage(QtDebugMsg, "Closed web camera thread");
+    QVERIFY(bench->disconnectCamera());
+    QVERIFY(!bench->window->connected() && !bench->picturesCome());
+    QCOMPARE(firmWare.size(), 1);
+    QVERIFY(fps.size() >= 1);
+    QCOMPARE(connection.size(), 1);
+    QCOMPARE(bench->window->fps(), 0);
+    QVERIFY(!bench->told(Zum::Error, WebcamBench::notPresent()));
+    QVERIFY(bench->connectCamera());
+}
+
+void TestWebCamWindow::disconnectingWhileConnectingGivesUpSoon()
+{
+    std::atomic<bool> reading = false;
+    std::atomic<bool> letGo = false;
+    bench->machine.camera->onRead([&](int, cv::Mat &) {
+        reading = true;
+        while (!letGo)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        return false;
+    });
+    bench->window->connects();
+    QTRY_VERIFY(reading);
+    bench->window->disconnects();
+    letGo = true;
+    QVERIFY(bench->waitForEnd());
+    QCOMPARE(bench->machine.clock->waitedMs(), 0);
+    QVERIFY(!bench->told(Zum::Error, WebcamBench::notPresent()));
+    QVERIFY(!bench->global.busy());
+}
+
+void TestWebCamWindow::aThreadThatTakesItsTimeIsWaitedFor()
+{
+    QVERIFY(bench->connectCamera());
+    std::atomic<bool> inside = false;
+    std::atomic<bool> letGo = false;
+    bench->machine.camera->onRead([&](int, cv::Mat &) {
+        inside = true;
+        while (!letGo)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        return false;
+    });
+    QTRY_VERIFY(inside);
+    bench->window->disconnects();
+    std::thread release([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        letGo = true;
+    });
+    QTest::ignoreMessage(QtDebugMsg, "Waiting for Thread to finish...");
+    bench->window->disconnectsContinued();
+    release.join();
+    QVERIFY(!bench->window->threadIsRunning());
+}
+
+void TestWebCamWindow::destroyingWhileConnectedEndsTheThread()
+{
+    QVERIFY(bench->connectCamera());
+    bench->window.reset();
+    QCOMPARE(bench->machine.camera->closed.load(), 1);
+}
+
+void TestWebCamWindow::aConnectionWithoutEnvironmentFindsNoCamera()
+{
+    WebCamWindow window;
+    QSignalSpy told(&window, &WebCamWindow::message);
+    window.connects();
+    QCOMPARE(told.size(), 2);
+    QCOMPARE(told.last().first().toInt(), int(Zum::Error));
+    QVERIFY(!window.busy() && !window.threadIsRunning());
+}
+
+void TestWebCamWindow::theRateIsMeasuredEveryFourSeconds()
+{
+    QVERIFY(bench->connectCamera());
+    QSignalSpy fps(bench->window.get(), &WebCamWindow::fpsChanged);
+    QTRY_VERIFY(fps.size() >= 2);
+    // One pass in 33 ms, so 121 or 122 in four seconds.
+    QVERIFY(bench->window->fps() == 30 || bench->window->fps() == 31);
+}
+
+void TestWebCamWindow::aRateWithoutValueIsTold()
+{
+    QSignalSpy fps(bench->window.get(), &WebCamWindow::fpsChanged);
+    QTest::ignoreMessage(QtDebugMsg, "Failed to get FPS");
+    send(WebCamEvent::Rate);
+    QCOMPARE(fps.size(), 0);
+    send(WebCamEvent::Rate, 12);
+    QCOMPARE(fps.size(), 1);
+    QCOMPARE(bench->window->fps(), 0);
+}
+
+void TestWebCamWindow::aPauseKeepsTheConnectionAndStopsTheCamera()
+{
+    QVERIFY(bench->connectCamera());
+    QSignalSpy powerFactor(bench->window.get(), &WebCamWindow::powerFactorChanged);
+    bench->window->setPowerFactor(90);
+    bench->window->setPaused(true);
+    QCOMPARE(powerFactor.last().first().toInt(), 1000);
+    QTRY_COMPARE(bench->machine.clock->lastDelayMs(), 400);
+    const int readings = bench->machine.camera->readings;
+    const qint64 before = bench->machine.clock->nowMs();
+    QTRY_VERIFY(bench->machine.clock->nowMs() > before + 4000);
+    QCOMPARE(bench->machine.camera->readings.load(), readings);
+    QVERIFY(bench->window->connected() && bench->window->paused());
+    bench->window->setPaused(false);
+    QCOMPARE(powerFactor.last().first().toInt(), 90);
+    QCOMPARE(bench->window->powerFactor(), 90);
+    QTRY_VERIFY(bench->machine.camera->readings > readings);
+}
+
+void TestWebCamWindow::aChangeOfPaceWhilePausedWaitsForTheEnd()
+{
+    QVERIFY(bench->connectCamera());
+    bench->window->setPaused(true);
+    QTRY_COMPARE(bench->machine.clock->lastDelayMs(), 400);
+    bench->window->setPowerFactor(20);
+    const qint64 before = bench->machine.clock->nowMs();
+    QTRY_VERIFY(bench->machine.clock->nowMs() > before + 2000);
+    QCOMPARE(bench->machine.clock->lastDelayMs(), 400);
+    QSignalSpy powerFactor(bench->window.get(), &WebCamWindow::powerFactorChanged);
+    bench->window->setPaused(false);
+    QCOMPARE(powerFactor.last().first().toInt(), 20);
+    QTRY_COMPARE(bench->machine.clock->lastDelayMs(), 33);
+}
+
+void TestWebCamWindow::pausingWithoutThreadDoesNothing()
+{
+    QSignalSpy changes(bench->window.get(), &WebCamWindow::pausedChanged);
+    bench->window->setPaused(true);
+    QVERIFY(!bench->window->paused());
+    QCOMPARE(changes.size(), 0);
+}
+
+void TestWebCamWindow::powerFactorsAndWhatTheyDo_data()
+{
+    QTest::addColumn<int>("powerFactor");
+    QTest::addColumn<int>("intervalMs");
+    QTest::newRow("max is limited") << 20 << 33;
+    QTest::newRow("just below") << 33 << 33;
+    QTest::newRow("first that counts") << 34 << 34;
+    QTest::newRow("middle") << 90 << 90;
+    QTest::newRow("min") << 300 << 300;
+    QTest::newRow("last that counts") << 400 << 400;
+    QTest::newRow("pause") << 1000 << 400;
+}
+
+void TestWebCamWindow::powerFactorsAndWhatTheyDo()
+{
+    QFETCH(int, powerFactor);
+    QFETCH(int, intervalMs);
+    QVERIFY(bench->connectCamera());
+    bench->window->setPowerFactor(50);
+    QTRY_COMPARE(bench->machine.clock->lastDelayMs(), 50);
+    bench->window->setPowerFactor(powerFactor);
+    QTRY_COMPARE(bench->machine.clock->lastDelayMs(), intervalMs);
+    const int readings = bench->machine.camera->readings;
+    if (powerFactor < 1000)
+        QTRY_VERIFY(bench->machine.camera->readings > readings);
+}
+
+void TestWebCamWindow::powerFactorFiveHundredChangesNothing()
+{
+    QVERIFY(bench->connectCamera());
+    bench->window->setPowerFactor(90);
+    QTRY_COMPARE(bench->machine.clock->lastDelayMs(), 90);
+    for (const int powerFactor : {401, 500, 999}) {
+        bench->window->setPowerFactor(powerFactor);
+        const int readings = bench->machine.camera->readings;
+        QTRY_VERIFY(bench->machine.camera->readings > readings + 5);
+        QCOMPARE(bench->machine.clock->lastDelayMs(), 90);
+    }
+}
+
+void TestWebCamWindow::propertiesGoByTheirNumbers_data()
+{
+    QTest::addColumn<int>("property");
+    QTest::addColumn<int>("number");
+    QTest::newRow("brightness") << int(Zum::WebcamBrightness) << 10;
+    QTest::newRow("contrast") << int(Zum::WebcamContrast) << 11;
+    QTest::newRow("saturation") << int(Zum::WebcamSaturation) << 12;
+    QTest::newRow("hue") << int(Zum::WebcamHue) << 13;
+    QTest::newRow("gain") << int(Zum::WebcamGain) << 14;
+    QTest::newRow("exposure") << int(Zum::WebcamExposure) << 15;
+    QTest::newRow("auto exposure") << int(Zum::WebcamAutoExposure) << 21;
+    QTest::newRow("sharpness") << int(Zum::WebcamSharpness) << 20;
+    QTest::newRow("zoom") << int(Zum::WebcamZoom) << 27;
+    QTest::newRow("focus") << int(Zum::WebcamFocus) << 28;
+    QTest::newRow("autofocus") << int(Zum::WebcamAutofocus) << 39;
+}
+
+void TestWebCamWindow::propertiesGoByTheirNumbers()
+{
+    QFETCH(int, property);
+    QFETCH(int, number);
+    QVERIFY(bench->connectCamera());
+    QSignalSpy answers(&bench->global, &WebcamGlobal::webCameraPropChanged);
+    emit bench->global.webCameraProperty(property, 255);
+    QTRY_VERIFY([&] {
+        const auto sets = bench->machine.camera->sets();
+        return std::count(sets.begin(), sets.end(), std::pair(number, 255.0)) == 1;
+    }());
+    const bool readsBack = property == Zum::WebcamAutoExposure || property == Zum::WebcamAutofocus;
+    const int readings = bench->machine.camera->readings;
+    QTRY_VERIFY(bench->machine.camera->readings > readings + 2);
+    QCOMPARE(answers.size(), readsBack ? 1 : 0);
+}
+
+void TestWebCamWindow::aNegativeValueReadsTheProperty()
+{
+    QVERIFY(bench->connectCamera());
+    QSignalSpy answers(&bench->global, &WebcamGlobal::webCameraPropChanged);
+    emit bench->global.webCameraProperty(Zum::WebcamGain, -1);
+    QTRY_COMPARE(answers.size(), 1);
+    QCOMPARE(answers.first(), (QVariantList{int(Zum::WebcamGain), 77.0}));
+}
+
+void TestWebCamWindow::aPropertyThatIsNotTakenComesBackAsMinusOne()
+{
+    QVERIFY(bench->connectCamera());
+    bench->machine.camera->takesProperties = false;
+    QSignalSpy answers(&bench->global, &WebcamGlobal::webCameraPropChanged);
+    emit bench->global.webCameraProperty(Zum::WebcamFocus, 10);
+    QTRY_COMPARE(answers.size(), 1);
+    QCOMPARE(answers.first(), (QVariantList{int(Zum::WebcamFocus), -1.0}));
+}
+
+void TestWebCamWindow::automaticPropertiesAreReadBack()
+{
+    QVERIFY(bench->connectCamera());
+    QSignalSpy answers(&bench->global, &WebcamGlobal::webCameraPropChanged);
+    emit bench->global.webCameraProperty(Zum::WebcamAutofocus, 1);
+    QTRY_COMPARE(answers.size(), 1);
+    QCOMPARE(answers.first(), (QVariantList{int(Zum::WebcamAutofocus), 77.0}));
+    bench->machine.camera->takesProperties = false;
+    emit bench->global.webCameraProperty(Zum::WebcamAutoExposure, 1);
+    QTRY_COMPARE(answers.size(), 3);
+    QCOMPARE(answers.at(1), (QVariantList{int(Zum::WebcamAutoExposure), -1.0}));
+    QCOMPARE(answers.at(2), (QVariantList{int(Zum::WebcamAutoExposure), 77.0}));
+}
+
+void TestWebCamWindow::propertiesOutOfRangeDoNothing()
+{
+    QVERIFY(bench->connectCamera());
+    QSignalSpy answers(&bench->global, &WebcamGlobal::webCameraPropChanged);
+    const auto before = bench->machine.camera->sets().size();
+    emit bench->global.webCameraProperty(11, 5);
+    emit bench->global.webCameraProperty(-1, 5);
+    emit bench->global.webCameraProperty(Zum::WebcamZoom, 256);
+    emit bench->global.webCameraProperty(Zum::WebcamZoom, -1);
+    QTRY_COMPARE(answers.size(), 1);
+    QCOMPARE(bench->machine.camera->sets().size(), before);
+}
+
+void TestWebCamWindow::propertiesAreIgnoredWhilePaused()
+{
+    QVERIFY(bench->connectCamera());
+    bench->window->setPaused(true);
+    QTRY_COMPARE(bench->machine.clock->lastDelayMs(), 400);
+    QSignalSpy answers(&bench->global, &WebcamGlobal::webCameraPropChanged);
+    emit bench->global.webCameraProperty(Zum::WebcamZoom, -1);
+    bench->window->setPaused(false);
+    QTRY_COMPARE(bench->machine.clock->lastDelayMs(), 33);
+    QCOMPARE(answers.size(), 0);
+    QVERIFY(bench->window->connected());
+}
+
+void TestWebCamWindow::theSettingsDialogIsTheDriversOwn()
+{
+    bench->window->showSettingsDialog(1);
+    QVERIFY(bench->connectCamera());
+    bench->window->showSettingsDialog(1);
+    QTRY_VERIFY([&] {
+        const auto sets = bench->machine.camera->sets();
+        return std::count(sets.begin(), sets.end(), std::pair(37, 1.0)) == 1;
+    }());
+}
+
+void TestWebCamWindow::aFrameSizeThatIsNotOfferedComesBackAsTheRealOne()
+{
+    QVERIFY(bench->connectCamera());
+    QSignalSpy sizes(bench->window.get(), &WebCamWindow::coordSystemChanged);
+    bench->window->setFrameSize(800, 600);
+    QTRY_VERIFY(sizes.size() >= 1);
+    QCOMPARE(bench->window->coordSystemWidth(), 64.0);
+    const auto asked = [&](int number, double value) {
+        const auto sets = bench->machine.camera->sets();
+        return std::count(sets.begin(), sets.end(), std::pair(number, value));
+    };
+    QCOMPARE(asked(3, 800), 1);
+    QCOMPARE(asked(4, 600), 1);
+    // The first grab asks with -1, before anybody has asked for a size.
+    QCOMPARE(asked(3, -1), 1);
+    const int readings = bench->machine.camera->readings;
+    QTRY_VERIFY(bench->machine.camera->readings > readings + 5);
+    QCOMPARE(asked(3, 800), 1);
+}
+
+void TestWebCamWindow::theSizeGoesToTheGlobalStateAndTheItem()
+{
+    bench->window->setAvailWidth(32);
+    QVERIFY(bench->connectCamera());
+    QCOMPARE(bench->window->coordSystemWidth(), 64.0);
+    QCOMPARE(bench->window->coordSystemHeight(), 48.0);
+    QCOMPARE(bench->global.coordSystemWidth(), 64.0);
+    QCOMPARE(bench->global.coordSystemHeight(), 48.0);
+    QTRY_COMPARE(bench->window->size(), QSizeF(32, 24));
+    QTRY_COMPARE(bench->window->liveView()->size(), QSizeF(32, 24));
+    bench->window->setAvailWidth(1000);
+    QTRY_COMPARE(bench->window->liveView()->size(), QSizeF(64, 48));
+    QTRY_COMPARE(bench->window->size(), QSizeF(64, 48));
+    bench->machine.camera->onRead(ScriptedCamera::plain(80, 60));
+    QTRY_COMPARE(bench->window->coordSystemWidth(), 80.0);
+}
+
+void TestWebCamWindow::aNewSizeAppliesTurnGrayAndSmoothAgain()
+{
+    bench->window->setGrayscale(true);
+    bench->window->setRotate(true);
+    QVERIFY(bench->connectCamera());
+    auto *view = qobject_cast<LiveViewItem *>(bench->window->liveView());
+    QTRY_VERIFY(view->rotated());
+    QVERIFY(view->grayscale());
+    bench->window->setGrayscale(false);
+    bench->window->setRotate(false);
+    QTRY_VERIFY(!view->rotated() && !view->grayscale());
+}
+
+void TestWebCamWindow::theHistogramComesAboutOnceASecond()
+{
+    QVERIFY(bench->connectCamera());
+    QSignalSpy rate(bench->window.get(), &WebCamWindow::fpsChanged);
+    QTRY_VERIFY(rate.size() >= 1);
+    QCOMPARE(bench->window->histogramDataY().size(), 257);
+    QCOMPARE(bench->window->histogramDataR().size(), 257);
+    QSignalSpy histograms(bench->window.get(), &WebCamWindow::histogramDataBChanged);
+    const qint64 before = bench->machine.clock->nowMs();
+    QTRY_VERIFY(bench->machine.clock->nowMs() > before + 8000);
+    const qint64 seconds = (bench->machine.clock->nowMs() - before) / 1000;
+    QVERIFY2(histograms.size() >= seconds - 3 && histograms.size() <= seconds + 2,
+             qPrintable(QString("%1 in %2 s").arg(histograms.size()).arg(seconds)));
+}
+
+void TestWebCamWindow::noHistogramUnlessWanted()
+{
+    bench->window->setHistogramOn(false);
+    QVERIFY(bench->connectCamera());
+    const int readings = bench->machine.camera->readings;
+    QTRY_VERIFY(bench->machine.camera->readings > readings + 50);
+    QVERIFY(bench->window->histogramDataY().isEmpty());
+    bench->window->setHistogramOn(true);
+    QTRY_COMPARE(bench->window->histogramDataY().size(), 257);
+}
+
+void TestWebCamWindow::eventsOfTheSharedVocabulary()
+{
+    send(1302);
+    QVERIFY(bench->told(Zum::Info,
+                        "Failed to initialize LiveView. Probably your camera does not support this feature"));
+    QVERIFY(bench->told(Zum::Error, WebcamBench::notPresent()));
+    send(1312);
+    QVERIFY(bench->told(Zum::Error, "No connection with camera"));
+    send(1342);
+    QVERIFY(bench->window->busy() && bench->global.busy());
+    send(1343);
+    QVERIFY(!bench->window->busy() && !bench->global.busy());
+    send(1311, "text");
+    QVERIFY(bench->told(Zum::Warning, "text"));
+    QSignalSpy saved(bench->window.get(), &WebCamWindow::frameSaved);
+    send(1342);
+    send(1340);
+    QCOMPARE(saved.size(), 1);
+    QVERIFY(!bench->window->busy());
+    send(1336, 100);
+    send(1335, 25);
+    send(1337, "Transfer image...");
+    QCOMPARE(bench->window->progressTotal(), 100);
+    QCOMPARE(bench->window->progressCurrent(), 25);
+    QCOMPARE(bench->window->progressAction(), QString("Transfer image..."));
+}
+
+void TestWebCamWindow::messagesArePrintedInQuotes()
+{
+    QTest::ignoreMessage(QtDebugMsg, "\"hello\"");
+    bench->window->printMessage(1, "hello");
+}
+
+void TestWebCamWindow::theSceneGivesItsEnvironmentByName()
+{
+    qmlRegisterType<WebCamWindow>("WebCamera", 1, 0, "WebCamera");
+    qmlRegisterType<OsSpecific>("OsSpecific", 1, 0, "OsSpecific");
+    QQmlEngine engine;
+    engine.rootContext()->setContextProperty(CaptureEnvironment::contextName, &bench->environment);
+    QQmlComponent component(&engine);
+    component.setData(
+        "import QtQuick; import WebCamera 1.0; import OsSpecific 1.0\n"
+        "WebCamera {\n"
+        "    id: cam\n"
+        "    property var devices: os.usbCapturingDevicesList\n"
+        "    property OsSpecific os: OsSpecific {}\n"
+        "    function look() { os.getDevices(); cam.connects(); return devices[0].name; }\n"
+        "}",
+        QUrl());
+    const std::unique_ptr<QObject> object(component.create());
+    QVERIFY2(object, qPrintable(component.errorString()));
+    QVariant name;
+    QVERIFY(QMetaObject::invokeMethod(object.get(), "look", Q_RETURN_ARG(QVariant, name)));
+    QCOMPARE(name.toString(), QString("Demo Webcam"));
+    QTRY_VERIFY(object->property("connected").toBool());
+}
+
+void TestWebCamWindow::theSceneKnowsTheseNames()
+{
+    const QMetaObject &meta = WebCamWindow::staticMetaObject;
+    for (const char *name : {"connected",
+                             "threadIsRunning",
+                             "busy",
+                             "fps",
+                             "rotate",
+                             "paused",
+                             "renderSmooth",
+                             "histogramOn",
+                             "grayscale",
+                             "histogramDataY",
+                             "histogramDataR",
+                             "histogramDataG",
+                             "histogramDataB",
+                             "coordSystemWidth",
+                             "coordSystemHeight",
+                             "progressAction",
+                             "progressTotal",
+                             "progressCurrent",
+                             "focusFrameOn",
+                             "firmWareVer",
+                             "global",
+                             "powerFactor",
+                             "zoomFactor",
+                             "eyedropperOn",
+                             "availWidth",
+                             "availHeight"}) {
+        const int index = meta.indexOfProperty(name);
+        QVERIFY2(index >= 0, name);
+        QCOMPARE(meta.property(index).notifySignal().name(), QByteArray(name) + "Changed");
+    }
+    for (const char *signature :
+         {"frameSaved()", "frameSaveError()", "message(int,QString)", "enableEyedropper(bool)",
+          "setEyedropper(QPoint,QColor)", "mousePressed(QPoint)", "rightClick(QPoint)", "avListChanged()",
+          "coordSystemChanged()", "powerFactorChanged(int)", "availWidthChanged(int)"})
+        QVERIFY2(meta.indexOfSignal(signature) >= 0, signature);
+    for (const char *signature :
+         {"printMessage(int,QString)", "loadCameraSettings()", "updateScreen()", "disconnectsContinued()",
+          "setZoomRectPos()", "setFrameSize(int,int)", "connects(bool)", "connects()", "disconnects()",
+          "calcHistogramData()", "captureFrame(QString,QString,QString,int,int,bool,bool,bool)",
+          "showSettingsDialog(int)"})
+        QVERIFY2(meta.indexOfSlot(signature) >= 0, signature);
+    for (const char *name : {"connected", "threadIsRunning", "fps", "busy", "histogramDataY",
+                             "coordSystemWidth", "progressTotal"})
+        QVERIFY2(!meta.property(meta.indexOfProperty(name)).isWritable(), name);
+}
+
+QTEST_MAIN(TestWebCamWindow)
+#include "tst_webcamwindow.moc"
