@@ -255,6 +255,11 @@ void WebCamWindow::connectThread()
     connect(this, &WebCamWindow::availWidthChanged, thread, &WebCamLiveViewThread::setAvailWidth);
     connect(this, &WebCamWindow::availHeightChanged, thread, &WebCamLiveViewThread::setAvailHeight);
     connect(this, &WebCamWindow::powerFactorChanged, thread, &WebCamLiveViewThread::setPowerFactor);
+    connect(thread, &QThread::finished, this, [this, thread] {
+        // One that was freed already has nothing more to tell.
+        if (m_thread.get() == thread)
+            disconnectsContinued();
+    });
     if (!m_global) {
         qDebug("WebCamWindow::init failed to conect to global");
         return;
