@@ -1,7 +1,8 @@
 import QtQuick
 
 // One choice of several, side by side, in several lines when too narrow. `currentIndex` belongs to the owner:
-// a click, or an arrow key, only asks for another.
+// a click, or an arrow key, only asks for another. A choice is a text, or {text, icon, toolTip}, of which any may be
+// missing.
 FocusScope {
     id: choices
 
@@ -58,11 +59,13 @@ FocusScope {
                 model: choices.model
                 TextButton {
                     required property int index
-                    required property string modelData
+                    required property var modelData
+                    readonly property bool plain: typeof modelData === "string"
 
                     width: Math.min(implicitWidth, choices.width)
-                    text: modelData
-                    toolTip: choices.toolTip
+                    text: plain ? modelData : modelData.text || ""
+                    icon: plain ? "" : modelData.icon || ""
+                    toolTip: plain ? choices.toolTip : modelData.toolTip || ""
                     toggled: index === choices.currentIndex
                     role: Accessible.RadioButton
                     tabStop: false

@@ -97,27 +97,15 @@ FocusScope {
         }
     }
 
-    Connections {
-        target: dialog.Window.window
-        function onActiveFocusItemChanged() { dialog.reveal(dialog.Window.window.activeFocusItem) }
-    }
-
-    // Scrolls to what the keyboard has come to.
     function reveal(item) {
-        if (!item || !bar.needed || !isInside(item))
-            return
-        const top = item.mapToItem(column, 0, 0).y
-        if (top < view.contentY)
-            bar.scrollTo(top)
-        else if (top + item.height > view.contentY + view.height)
-            bar.scrollTo(top + item.height - view.height)
+        revealing.show(item)
     }
 
-    function isInside(item) {
-        for (let above = item; above; above = above.parent) {
-            if (above === column)
-                return true
-        }
-        return false
+    FocusReveal {
+        id: revealing
+
+        flickable: view
+        bar: bar
+        holder: column
     }
 }

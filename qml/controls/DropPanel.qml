@@ -11,6 +11,8 @@ FocusScope {
     default property alias content: holder.data
     property real contentWidth: 0
     property real contentHeight: 0
+    // Opens at the right side of the control instead, for one of a column.
+    property bool beside: false
     readonly property bool opened: visible
     readonly property real margin: Theme.padding
 
@@ -54,8 +56,9 @@ FocusScope {
         const corner = panel.owner.mapToItem(panel.parent, 0, 0)
         const below = corner.y + panel.owner.height + 1
         const above = corner.y - frame.height - 1
-        const y = below + frame.height <= panel.height || above < 0 ? below : above
-        frame.x = Math.round(Math.max(0, Math.min(panel.width - frame.width, corner.x)))
+        const y = panel.beside ? corner.y : below + frame.height <= panel.height || above < 0 ? below : above
+        const x = panel.beside ? corner.x + panel.owner.width + DefFontSizePico : corner.x
+        frame.x = Math.round(Math.max(0, Math.min(panel.width - frame.width, x)))
         frame.y = Math.round(Math.max(0, Math.min(panel.height - frame.height, y)))
     }
 

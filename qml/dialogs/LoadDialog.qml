@@ -8,7 +8,7 @@ DialogBox {
 
     property alias estimate: remaining
     // The kind of job followed last; the window forgets it with the job's end.
-    property int job: MainWindow.currentRobotJob
+    property int job: Zum.NoJob
     property bool closedByUser: false
     readonly property bool running: MainWindow.progressTotal > 0
     // A total of one says that nobody can count the steps.
@@ -16,6 +16,11 @@ DialogBox {
     readonly property bool failed: MainWindow.robotErrorCount > 0
     readonly property bool hasVideo: !running && job === Zum.RenderVideo && WebcamGlobal.lastRenderedPath !== ""
     readonly property bool hasFrames: !running && job === Zum.ExportFrames && WebcamGlobal.exportPath !== ""
+
+    function follow() {
+        if (MainWindow.currentRobotJob !== Zum.NoJob)
+            job = MainWindow.currentRobotJob;
+    }
 
     function forgetErrors() {
         MainWindow.robotErrorCount = 0;
@@ -32,6 +37,7 @@ DialogBox {
     }
 
     heading: running ? MainWindow.progressAction : qsTr("Completed")
+    Component.onCompleted: follow()
     Component.onDestruction: {
         if (!closedByUser && MainWindow.progressTotal === 0)
             forgetErrors();
@@ -94,8 +100,7 @@ DialogBox {
         target: MainWindow
 
         function onCurrentRobotJobChanged() {
-            if (MainWindow.currentRobotJob !== Zum.NoJob)
-                dialog.job = MainWindow.currentRobotJob;
+            dialog.follow();
         }
     }
 }

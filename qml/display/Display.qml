@@ -94,6 +94,28 @@ Item {
         anchors.fill: flicker
     }
 
+    // Why the tab of the live picture shows a frame.
+    Rectangle {
+        anchors.left: flicker.left
+        anchors.bottom: flicker.bottom
+        anchors.margins: Theme.spacing
+        width: noCamera.implicitWidth + 2 * Theme.spacing
+        height: noCamera.implicitHeight + 2 * DefFontSizePico
+        visible: display.tabsShown && !WebcamGlobal.connected
+                 && WebcamGlobal.camboxState === "liveViewPreviewIsOn"
+                 && FramesModel.framesCount > 0 && 2 * width < flicker.width && 4 * height < flicker.height
+        radius: Theme.corner
+        color: "#99000000"
+
+        TextLabel {
+            id: noCamera
+
+            anchors.centerIn: parent
+            text: qsTr("No camera: the captured frame shows")
+            small: true
+        }
+    }
+
     SimpleDisplayDisconnector {
         id: disconnector
 

@@ -6,6 +6,8 @@ import Zum 1.0
 Column {
     id: filters
 
+    // Without the key colour and the background.
+    property bool brief: false
     readonly property var settings: WebcamGlobal.postProcessSettings
     readonly property bool previewed: WebcamGlobal.postProcessing === Zum.NonRealtimeProcessing
 
@@ -79,9 +81,11 @@ Column {
 
     PostProcessChromaControl {
         width: parent.width
+        visible: !filters.brief
     }
 
     PostProcessBackground {
         width: parent.width
+        visible: !filters.brief
     }
 }

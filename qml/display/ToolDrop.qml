@@ -7,7 +7,7 @@ IconButton {
     property string title: ""
     property real panelWidth: DefFontSizeNormal_x22
     readonly property alias opened: panel.opened
-    readonly property real bodyWidth: Math.min(panelWidth, Window.width - 4 * Theme.padding)
+    readonly property real bodyWidth: Math.min(panelWidth, Window.width - 4 * Theme.padding - scrollBarW)
     default property alias panelContent: column.data
 
     label: title
@@ -44,7 +44,9 @@ IconButton {
         id: panel
 
         owner: tool
-        contentWidth: tool.bodyWidth
+        beside: true
+        // Beside what scrolls stands its bar.
+        contentWidth: tool.bodyWidth + (contentHeight + 2 * margin > tool.Window.height ? scrollBarW : 0)
         contentHeight: column.implicitHeight
 
         Column {

@@ -8,8 +8,10 @@ Rectangle {
     required property var scene
     property bool shown: true
     readonly property bool captures: WebcamGlobal.currentActiveTab === Zum.CaptureTab
-    // In a high window what one shoots with never scrolls away.
-    readonly property bool roomy: height > 40 * DefFontSizeNormal
+    readonly property bool renders: WebcamGlobal.currentActiveTab === Zum.TimingTab
+    // What one shoots and renders with never scrolls away, unless the window is too low for it.
+    readonly property bool roomyToShoot: height > 40 * DefFontSizeNormal
+    readonly property bool roomyToRender: height > 24 * DefFontSizeNormal
 
     // Without a project there is nothing to set.
     width: shown && MainWindow.projectLoaded ? Math.min(ControlsPanesBoxW, parent.width * 0.36) : 0
@@ -35,13 +37,25 @@ Rectangle {
             spacing: DefFontSizeMicro
 
             Loader {
-                id: capturePane
-
                 width: parent.width
                 active: MainWindow.projectLoaded
                 visible: controlsPanesBox.captures
                 sourceComponent: CaptureControlsPane {
-                    tabsPlace: controlsPanesBox.roomy ? bottomPlace : null
+                    tabsPlace: controlsPanesBox.roomyToShoot ? shootingPlace : null
+                }
+            }
+
+            // Made when it is first shown.
+            Loader {
+                property bool wanted: false
+
+                width: parent.width
+                active: MainWindow.projectLoaded && wanted
+                visible: controlsPanesBox.renders
+                onVisibleChanged: wanted = wanted || visible
+                sourceComponent: RenderPane {
+                    scene: controlsPanesBox.scene
+                    footPlace: controlsPanesBox.roomyToRender ? renderingPlace : null
                 }
             }
 
@@ -58,27 +72,45 @@ Rectangle {
     Item {
         id: bottom
 
+        readonly property real content: (shootingPlace.visible ? shootingPlace.height : 0)
+                                        + (renderingPlace.visible ? renderingPlace.height : 0)
+
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         anchors.leftMargin: DefFontSizeMicro
         anchors.rightMargin: 2 * DefFontSizeMicro
-        visible: controlsPanesBox.captures
-        height: visible ? bottomPlace.implicitHeight + DefFontSizeMicro : 0
+        height: content > 0 ? content + DefFontSizeMicro : 0
 
         Column {
-            id: bottomPlace
+            id: shootingPlace
 
             width: parent.width
+            visible: controlsPanesBox.captures
 
             CaptureButton {
                 width: parent.width
-                visible: !controlsPanesBox.roomy
+                visible: !controlsPanesBox.roomyToShoot
             }
+        }
+
+        Column {
+            id: renderingPlace
+
+            width: parent.width
+            visible: controlsPanesBox.renders
         }
     }
 
+    FocusReveal {
+        flickable: flick
+        bar: bar
+        holder: panes
+    }
+
     Scrollbar {
+        id: bar
+
         anchors.right: parent.right
         anchors.top: flick.top
         anchors.bottom: flick.bottom

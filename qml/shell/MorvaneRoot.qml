@@ -176,6 +176,8 @@ SceneDevices {
         visible: tabRules.timelineShown
         compactMode: tabRules.compacted
         rangeControlVisible: tabRules.timing
+        readyRuns: screenArea.readyRuns
+        readyPercent: screenArea.readyPercent
         height: visible ? wantedHeight : 0
         scene: appWindow
     }

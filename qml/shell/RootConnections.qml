@@ -61,6 +61,11 @@ Item {
             MainWindow.clearClipboardFrames();
         }
 
+        function onLastRenderedPathChanged() {
+            if (MainWindow.fileExists(WebcamGlobal.lastRenderedPath))
+                WebcamGlobal.playerSource = WebcamGlobal.lastRenderedPath;
+        }
+
         function onReloadCapturingDevice() {
             connections.scene.reloadCapturingDevice();
         }

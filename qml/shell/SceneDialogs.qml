@@ -48,6 +48,10 @@ FocusScope {
         showDialog("PostProcessFiltersDialog.qml");
     }
 
+    function videoEffectsBox() {
+        showDialog("VideoEffectsDialog.qml");
+    }
+
     function aboutBox() {
         showDialog("About.qml");
     }

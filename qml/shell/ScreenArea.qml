@@ -19,6 +19,10 @@ Item {
     readonly property real timingPixelZoom: timing.item && timing.item.ramView.shownScale > 0
                                             ? 1 / timing.item.ramView.shownScale : 0
 
+    // What of the play range lies in memory: pairs of rows, and the share of the range in per cent.
+    readonly property var readyRuns: timing.item ? timing.item.ramView.preview.readyRuns : []
+    readonly property real readyPercent: timing.item ? timing.item.ramView.preview.readyPercent : 0
+
     clip: true
 
     DisplayRules {

@@ -16,6 +16,9 @@ Item {
     readonly property bool video: tab === "playbackUIisOn"
     readonly property bool docs: tab === "docsUIisOn"
 
+    // What is being exported must stay as it is.
+    readonly property bool blocked: [Zum.RenderVideo, Zum.ExportFrames].includes(MainWindow.currentRobotJob)
+
     readonly property bool timelineShown: (capture || timing) && !maximized
     readonly property bool statusBarShown: (capture || timing) && plain
     readonly property bool panesShown: !docs && plain

@@ -53,6 +53,7 @@ Rectangle {
                     label: modelData.text
                     toolTip: topLine.roomy ? "" : modelData.text
                     toggled: topLine.rules.tab === modelData.name
+                    active: !topLine.rules.blocked
                     onClicked: WebcamGlobal.mainTabsState = modelData.name
                 }
             }

@@ -88,6 +88,10 @@
         <translation>Изображения</translation>
     </message>
     <message>
+        <source>Initializing. Please wait...</source>
+        <translation>Подготовка. Подождите...</translation>
+    </message>
+    <message>
         <source>Morvane project files</source>
         <translation>Проекты Morvane</translation>
     </message>

@@ -67,7 +67,7 @@
     </message>
     <message>
         <source>First frame of the range</source>
-        <translation>Первый кадр диапазона</translation>
+        <translation>Начало диапазона</translation>
     </message>
     <message>
         <source>Frames per second</source>
@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>Last frame of the range</source>
-        <translation>Последний кадр диапазона</translation>
+        <translation>Конец диапазона</translation>
     </message>
     <message>
         <source>Play again and again</source>
@@ -103,7 +103,7 @@
     </message>
     <message>
         <source>Whole timeline</source>
-        <translation>Вся лента</translation>
+        <translation>Вся линейка</translation>
     </message>
 </context>
 </TS>

@@ -31,7 +31,7 @@
     </message>
     <message>
         <source>First frame of the range</source>
-        <translation>Первый кадр диапазона</translation>
+        <translation>Начало диапазона</translation>
     </message>
     <message>
         <source>In memory: %1 %</source>
@@ -39,7 +39,7 @@
     </message>
     <message>
         <source>Last frame of the range</source>
-        <translation>Последний кадр диапазона</translation>
+        <translation>Конец диапазона</translation>
     </message>
 </context>
 <context>
@@ -57,7 +57,7 @@
     <name>Timeline</name>
     <message>
         <source>Scroll the timeline</source>
-        <translation>Прокрутить ленту</translation>
+        <translation>Прокрутить линейку</translation>
     </message>
 </context>
 <context>
@@ -166,7 +166,7 @@
     <name>TimelineIndicatorRow</name>
     <message>
         <source>Holds, hidden frames and the selection over the whole timeline</source>
-        <translation>Стоп-кадры, скрытые кадры и выделение по всей ленте</translation>
+        <translation>Стоп-кадры, скрытые кадры и выделение по всей линейке</translation>
     </message>
 </context>
 <context>

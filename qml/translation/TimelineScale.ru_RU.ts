@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Size of the frames on the timeline</source>
-        <translation>Размер кадров на ленте</translation>
+        <translation>Размер кадров на линейке</translation>
     </message>
 </context>
 </TS>

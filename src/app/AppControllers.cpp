@@ -13,7 +13,7 @@ AppControllers::AppControllers(AppEnvironment given)
       locale(settings(), [this] { return environment.systemLocale; }), devices(global),
       capture(std::move(environment.cameras), settings()), cameras(global, devices, settings()),
       shots(global, frames, [this] { return timeStamp(); }),
-      timeLapse(global, frames, std::move(environment.timeLapseTicker)),
+      timeLapse(global, frames, std::move(environment.timeLapseTicker)), robot(robotServices()),
       recent(settings(), environment.now), paths(settings(), pathHooks(), QDir::homePath()),
       files(*environment.dialogs, settings(), global,
             [this] { return paths.projPath().isEmpty() ? QString() : paths.projDirPath(); }),
@@ -65,6 +65,13 @@ ProjectServices AppControllers::projectServices()
         robot.setCurrentRobotJob(Zum::NoJob);
     };
     return services;
+}
+
+RobotServices AppControllers::robotServices()
+{
+    return {global, frames, progress, messages, [this] {
+                return RobotProject{lifecycle.projectLoaded(), paths.projContntDirPath(), paths.projName()};
+            }};
 }
 
 void AppControllers::attachWindow(MainWindow &window)

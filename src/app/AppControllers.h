@@ -87,4 +87,5 @@ private:
     QString timeStamp() const;
     ProjectPaths::Hooks pathHooks();
     ProjectServices projectServices();
+    RobotServices robotServices();
 };

@@ -29,10 +29,19 @@ QString informationText(const QStringList &arguments)
     if (arguments.contains(QStringLiteral("--help")) || arguments.contains(QStringLiteral("-h")))
         return QStringLiteral(
             "Usage: morvane [--camera FILE] [PROJECT.kzfx]\n"
+            "       morvane --render FORMAT --output FOLDER [--range A:B] [--quality 0..3] PROJECT.kzfx\n"
             "Shoots stop-motion animation. Opens the project, if one is given.\n\n"
-            "      --camera FILE  a movie, or the first of numbered images, to shoot from as from a camera\n"
-            "  -h, --help         this text\n"
-            "  -v, --version      the version");
+            "      --camera FILE   a movie, or the first of numbered images, to shoot from as from a camera\n"
+            "  -h, --help          this text\n"
+            "  -v, --version       the version\n\n"
+            "Without a window, for scripts and render farms:\n"
+            "      --render FORMAT render a movie: avi, mjpg, webm, ogv, mkv, apng or raw\n"
+            "      --output FOLDER where the movie goes; made if need be\n"
+            "      --range A:B     frames A to B, as the timeline numbers them, instead of the project's\n"
+            "                      own range; the movie's name then ends with the two numbers\n"
+            "      --quality N     0 low, 1 medium, 2 high (the default), 3 maximum\n"
+            "Prints the progress and at last the movie's path. Ends with 0 for a whole movie, 1 for none or\n"
+            "one that is not whole, 2 for a command line that makes no sense.");
     return QString();
 }
 

@@ -1,5 +1,6 @@
 #include "app/StartupSettings.h"
 
+#include "shared/Names.h"
 #include "shared/Settings.h"
 #include "shared/WebcamGlobal.h"
 
@@ -7,6 +8,26 @@
 #include <QCoreApplication>
 
 namespace startup {
+
+namespace {
+
+/// A stored choice out of its range counts as none.
+int choice(const Settings &settings, const QString &key, int fallback, int highest)
+{
+    const int stored = settings.integer(key, fallback);
+    return stored < 0 || stored > highest ? fallback : stored;
+}
+
+/// The format of movies; one that no button offers counts as none.
+QString videoFormat(const Settings &settings)
+{
+    const QStringList offered{morvane::formatAvi, morvane::formatOgv, morvane::formatWebm, morvane::formatMkv,
+                              morvane::formatRaw};
+    const QString stored = settings.value(QStringLiteral("renderVideoFormat")).toString();
+    return offered.contains(stored) ? stored : morvane::formatAvi;
+}
+
+} // namespace
 
 WindowFlags windowFlags(const Settings &settings)
 {
@@ -23,6 +44,10 @@ void readInto(WebcamGlobal &global, const Settings &settings)
     global.setShowToolTips(settings.boolean(QStringLiteral("showToolTips"), true));
     global.setInactivityWatchOn(settings.boolean(QStringLiteral("inactivityWatcher"), false));
     global.setJumpToLastFrame(settings.boolean(QStringLiteral("jumpToLastFrame"), true));
+    global.setRenderFormatNameStr(videoFormat(settings));
+    global.setRenderQmax(choice(settings, QStringLiteral("renderQmax"), 2, 3));
+    global.setVideoExportPolicy(choice(settings, QStringLiteral("videoExportPolicy"),
+                                       Zum::ExportPolicyCropped, Zum::ExportPolicyCroppedAndResized));
     global.setInactivityMaximum(
         settings.integer(QStringLiteral("inactivityMax"), global.inactivityMaximum(), 5, 180));
 }

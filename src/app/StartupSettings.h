@@ -18,7 +18,7 @@ struct WindowFlags
 };
 WindowFlags windowFlags(const Settings &settings);
 
-/// Sounds, tool tips, inactivity watch and the jump to a new frame.
+/// Sounds, tool tips, inactivity watch, the jump to a new frame, and format, quality and size of movies.
 void readInto(WebcamGlobal &global, const Settings &settings);
 
 /// Scale of the timeline in per cent, at most 100.

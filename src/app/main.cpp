@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 #include "app/FirstFrame.h"
 #include "app/MainWindow.h"
+#include "app/RenderCommand.h"
 #include "app/SplashScreen.h"
 #include "app/Translations.h"
 #include "app/TypeRegistry.h"
@@ -16,6 +17,22 @@
 #include <QScreen>
 #include <QTimer>
 
+namespace {
+
+/// Renders as the command line says, with fonts but without a screen.
+int render(int argc, char *argv[], const QStringList &given)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    QGuiApplication::setApplicationName(morvane::applicationName);
+    QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath());
+    const Settings settings;
+    translations::install(LocaleChoice::startLocale(settings, LocaleChoice::systemLocaleName()), &app);
+    return rendercommand::execute(given);
+}
+
+} // namespace
+
 int main(int argc, char *argv[])
 {
     // Asked for in words alone, the program needs no screen.
@@ -24,6 +41,8 @@ int main(int argc, char *argv[])
         std::puts(qPrintable(text));
         return 0;
     }
+    if (rendercommand::isAsked(given))
+        return render(argc, argv, given);
 
     QApplication app(argc, argv);
     QApplication::setQuitOnLastWindowClosed(true);

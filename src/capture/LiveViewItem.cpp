@@ -6,54 +6,6 @@
 
 namespace {
 
-/// Holds the node for the picture or the one for black, and knows which.
-class LiveViewNode : public QSGNode
-{
-public:
-    QSGImageNode *picture = nullptr;
-    QSGRectangleNode *black = nullptr;
-
-    void showBlack(QQuickWindow *window, const QRectF &area)
-    {
-        drop(picture);
-        if (!black) {
-            black = window->createRectangleNode();
-            black->setColor(Qt::black);
-            appendChildNode(black);
-        }
-        black->setRect(area);
-    }
-
-    /// A texture of null leaves the one that is there.
-    void showPicture(QQuickWindow *window, QSGTexture *texture)
-    {
-        drop(black);
-        const bool isNew = !picture;
-        if (isNew) {
-            picture = window->createImageNode();
-            picture->setOwnsTexture(true);
-        }
-        if (texture) {
-            picture->setTexture(texture);
-            picture->setSourceRect(QRectF(QPointF(), texture->textureSize()));
-        }
-        // Not before it has its texture, for the renderer looks at it at once.
-        if (isNew)
-            appendChildNode(picture);
-    }
-
-private:
-    template <typename Node>
-    void drop(Node *&node)
-    {
-        if (!node)
-            return;
-        removeChildNode(node);
-        delete node;
-        node = nullptr;
-    }
-};
-
 // A camera's picture is opaque, and as such it needs no pass over its pixels on the way to the texture. The
 // view keeps the picture's memory.
 QImage opaqueView(const QImage &picture)
@@ -181,23 +133,49 @@ void LiveViewItem::updatePolish()
     emit setEyedropper(mapToScene(m_eyedropperPosition).toPoint(), m_picture.pixelColor(pixel));
 }
 
+// One node or the other, and never one within a node that stays: the software renderer would not mind the
+// item's opacity for a node that comes into such a one.
 QSGNode *LiveViewItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
 {
-    auto *node = old ? static_cast<LiveViewNode *>(old) : new LiveViewNode;
-    if (m_picture.isNull() || !m_showing) {
-        node->showBlack(window(), boundingRect());
-        return node;
+    const bool showsPicture = m_showing && !m_picture.isNull();
+    if (old && showsPicture != m_nodeShowsPicture) {
+        delete old;
+        old = nullptr;
     }
-    QSGTexture *texture = nullptr;
-    if (!node->picture || m_pictureIsNew)
-        texture = window()->createTextureFromImage(opaqueView(m_picture), QQuickWindow::TextureIsOpaque);
-    m_pictureIsNew = false;
-    node->showPicture(window(), texture);
-    node->picture->setRect(boundingRect());
-    node->picture->setFiltering(m_smooth ? QSGTexture::Linear : QSGTexture::Nearest);
-    const QSGImageNode::TextureCoordinatesTransformMode turned =
-        QSGImageNode::MirrorHorizontally | QSGImageNode::MirrorVertically;
-    node->picture->setTextureCoordinatesTransform(m_rotated ? turned : QSGImageNode::NoTransform);
+    m_nodeShowsPicture = showsPicture;
+    return showsPicture ? pictureNode(static_cast<QSGImageNode *>(old))
+                        : blackNode(static_cast<QSGRectangleNode *>(old));
+}
+
+QSGNode *LiveViewItem::blackNode(QSGRectangleNode *old) const
+{
+    QSGRectangleNode *node = old ? old : window()->createRectangleNode();
+    node->setColor(Qt::black);
+    node->setRect(boundingRect());
+    return node;
+}
+
+QSGNode *LiveViewItem::pictureNode(QSGImageNode *old)
+{
+    QSGImageNode *node = old ? old : window()->createImageNode();
+    if (!old || m_pictureIsNew) {
+        QSGTexture *texture =
+            window()->createTextureFromImage(opaqueView(m_picture), QQuickWindow::TextureIsOpaque);
+        node->setOwnsTexture(true);
+        node->setTexture(texture);
+        node->setSourceRect(QRectF(QPointF(), texture->textureSize()));
+        m_pictureIsNew = false;
+    }
+    node->setRect(boundingRect());
+    node->setFiltering(m_smooth ? QSGTexture::Linear : QSGTexture::Nearest);
+    const QSGImageNode::TextureCoordinatesTransformMode turn =
+        m_rotated ? QSGImageNode::MirrorHorizontally | QSGImageNode::MirrorVertically
+                  : QSGImageNode::TextureCoordinatesTransformMode(QSGImageNode::NoTransform);
+    if (node->textureCoordinatesTransform() != turn) {
+        node->setTextureCoordinatesTransform(turn);
+        // The node moves its corners and does not tell the renderer.
+        node->markDirty(QSGNode::DirtyGeometry);
+    }
     return node;
 }
 

@@ -6,6 +6,9 @@
 #include <QPoint>
 #include <QQuickItem>
 
+class QSGImageNode;
+class QSGRectangleNode;
+
 /// Shows the newest live picture over its whole area, or black while there is none. What all devices' live
 /// view items have in common; each device's own item says which events mean what. Main thread; drawing
 /// follows the scene graph's rules and touches only what was handed over.
@@ -100,6 +103,8 @@ protected:
 
 private:
     void lookAt(const QPointF &position);
+    QSGNode *pictureNode(QSGImageNode *old);
+    QSGNode *blackNode(QSGRectangleNode *old) const;
 
     LivePicture *m_source = &LivePicture::processWide();
     QImage m_picture;
@@ -115,4 +120,6 @@ private:
     bool m_eyedropperWaits = false;
     /// The texture on the screen is not of the picture.
     bool m_pictureIsNew = false;
+    /// Which of the two nodes the scene graph has.
+    bool m_nodeShowsPicture = false;
 };

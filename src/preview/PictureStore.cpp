@@ -1,6 +1,7 @@
 #include "preview/PictureStore.h"
 
 #include "preview/PictureGeometry.h"
+#include "preview/SmoothScaling.h"
 #include "preview/SourcePicture.h"
 #include "preview/StoredText.h"
 
@@ -211,16 +212,12 @@ QImage PictureStore::shaped(const QImage &decoded, const PictureGeometry &geomet
     const QSize reduced = geometry.reduced;
     const bool grows = scaled.width() > reduced.width() || scaled.height() > reduced.height();
     if (!grows) {
-        const QImage image = decoded.size() == scaled
-                                 ? decoded
-                                 : decoded.scaled(scaled, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        const QImage image = morvane::scaledSmoothly(decoded, scaled);
         return geometry.kept.size() == scaled ? image : image.copy(geometry.kept);
     }
-    const QImage small = decoded.size() == reduced
-                             ? decoded
-                             : decoded.scaled(reduced, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage small = morvane::scaledSmoothly(decoded, reduced);
     if (geometry.kept.size() == scaled)
-        return small.scaled(scaled, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        return morvane::scaledSmoothly(small, scaled);
     // Only what is kept is made: the whole may be many times as large.
     QImage image(geometry.kept.size(),
                  small.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);

@@ -4,6 +4,7 @@
 #include "preview/PictureStore.h"
 
 #include "preview/PictureGeometry.h"
+#include "preview/SmoothScaling.h"
 #include "preview/SourcePicture.h"
 
 bool PictureStore::workWhileIdle()
@@ -19,9 +20,8 @@ bool PictureStore::writeCopy()
         return false;
     const PendingCopy copy = std::move(m_pendingCopies.front());
     m_pendingCopies.pop_front();
-    m_surroundings.copies->write(
-        copy.folder, copy.name, copy.sourceSize,
-        copy.image.scaled(copy.size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    m_surroundings.copies->write(copy.folder, copy.name, copy.sourceSize,
+                                 morvane::scaledSmoothly(copy.image, copy.size));
     m_diskUseStale = true;
     return true;
 }

@@ -99,10 +99,12 @@ QSGNode *RamPreview::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
         m_textureStale = false;
     }
     node->setFiltering(smooth() ? QSGTexture::Linear : QSGTexture::Nearest);
-    node->setTextureCoordinatesTransform(mirrored() ? QSGImageNode::MirrorHorizontally
-                                                    : QSGImageNode::NoTransform);
-    // Another transform alone does not make the renderer take the node's geometry anew.
-    node->markDirty(QSGNode::DirtyGeometry);
+    const auto transform = mirrored() ? QSGImageNode::MirrorHorizontally : QSGImageNode::NoTransform;
+    if (node->textureCoordinatesTransform() != transform) {
+        node->setTextureCoordinatesTransform(transform);
+        // The node tells of a change of its material only, and the old coordinates would stay.
+        node->markDirty(QSGNode::DirtyGeometry);
+    }
     node->setRect(boundingRect());
     return node;
 }

@@ -16,7 +16,7 @@ class RamPreviewReport : public RamPreviewState
     Q_PROPERTY(QVariantList histogramDataR READ histogramDataR NOTIFY histogramDataChanged STORED false)
     Q_PROPERTY(QVariantList histogramDataG READ histogramDataG NOTIFY histogramDataChanged STORED false)
     Q_PROPERTY(QVariantList histogramDataB READ histogramDataB NOTIFY histogramDataChanged STORED false)
-    /// What of the play range lies ready in memory: maps with the rows "first" and "last", and the share of
+    /// What of the play range lies ready in memory: pairs [first row, last row], and the share of
     /// the range's rows in per cent. Without a timeline there is none. Told a few times a second at most.
     Q_PROPERTY(QVariantList readyRuns READ readyRuns NOTIFY readyChanged STORED false)
     Q_PROPERTY(qreal readyPercent READ readyPercent NOTIFY readyChanged STORED false)

@@ -140,7 +140,7 @@ QVariantList TimelineReadAhead::readyRuns() const
     int last = -1;
     const auto end = [&] {
         if (first >= 0)
-            runs.append(QVariantMap{{QStringLiteral("first"), first}, {QStringLiteral("last"), last}});
+            runs.append(QVariant(QVariantList{first, last}));
         first = -1;
     };
     for (const Row &entry : m_rows) {

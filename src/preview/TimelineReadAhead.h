@@ -27,7 +27,7 @@ public:
     /// Which pictures of the plan of that number lie in memory; that of an earlier plan is dropped.
     void setReady(int plan, const QBitArray &ready);
 
-    /// Maps with the rows "first" and "last", in order. Hidden rows neither break a run nor count; a row
+    /// Pairs [first row, last row], both included, in order. Hidden rows neither break a run nor count; a row
     /// without a picture is ready.
     QVariantList readyRuns() const;
     /// Share of the range's rows, 0 to 100.

@@ -293,7 +293,8 @@ void TestTranslations::translationsKeepPlaceholdersShortcutsAndEnds()
 
 void TestTranslations::translationsAreRussian()
 {
-    const QSet<QString> sameInRussian{" BETA", " RC", "#", "OK", "Ok", "Qt", "OpenCV", "Esc", "Ctrl + D"};
+    const QSet<QString> sameInRussian{" BETA", " RC",    "#",   "OK",       "Ok",
+                                      "Qt",    "OpenCV", "Esc", "Ctrl + D", "%1x%2"};
     const QSet<QString> partsOfDeviceNames{"device", "camera"};
     const QStringList english = complaints([&](const QString &, const Text &text) -> QString {
         if (sameInRussian.contains(text.source) || partsOfDeviceNames.contains(text.source))

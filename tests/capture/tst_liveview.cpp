@@ -45,6 +45,7 @@ private slots:
     void startsAsTold();
     void blackUntilTheFirstPicture();
     void showsThePictureOverItsWholeArea();
+    void letsThroughWhatLiesBelowByItsOpacity();
     void blackAfterTheThreadEnds();
     void anotherThirteenTwelveHidesToo();
     void turnedBy180DegreesWhilePainting();
@@ -210,6 +211,20 @@ void TestLiveView::showsThePictureOverItsWholeArea()
     other.fill(Qt::yellow);
     show(other);
     QCOMPARE(at(5, 5), QColor(Qt::yellow));
+}
+
+void TestLiveView::letsThroughWhatLiesBelowByItsOpacity()
+{
+    show(quarters(40, 20));
+    QCOMPARE(at(35, 5), QColor(Qt::green));
+    item->setOpacity(0.5);
+    const QColor green = at(35, 5);
+    const bool half =
+        qAbs(green.red() - 127) < 4 && qAbs(green.green() - 128) < 4 && qAbs(green.blue() - 127) < 4;
+    QVERIFY2(half, qPrintable(green.name()));
+    send(WebCamEvent::LoopEnded);
+    QVERIFY(qAbs(at(35, 5).red() - 127) < 4);
+    QCOMPARE(at(35, 5).green(), 0);
 }
 
 void TestLiveView::blackAfterTheThreadEnds()

@@ -244,7 +244,8 @@ void TestPictureFiles::jpegIsDecodedReduced()
     const QByteArray bytes = bytesOf("jpg", PreviewWorld::halves({1601, 801}));
     QCOMPARE(readFrom(bytes, "jpg", {300, 100}).size(), QSize(401, 201));
     QCOMPARE(readFrom(bytes, "jpg", {401, 201}).size(), QSize(401, 201));
-    QCOMPARE(readFrom(bytes, "jpg", {402, 201}).size(), QSize(601, 301));
+    QCOMPARE(readFrom(bytes, "jpg", {402, 201}).size(), QSize(801, 401));
+    QCOMPARE(readFrom(bytes, "jpg", {802, 401}).size(), QSize(1601, 801));
     QCOMPARE(readFrom(bytes, "jpg", {1601, 801}).size(), QSize(1601, 801));
     const QByteArray png = bytesOf("png", PreviewWorld::halves({160, 80}));
     QCOMPARE(readFrom(png, "png", {20, 10}).size(), QSize(160, 80));

@@ -49,7 +49,7 @@ QString runsOf(const TimelineReadAhead &readAhead)
 {
     QStringList runs;
     for (const QVariant &run : readAhead.readyRuns())
-        runs.append(QString("%1-%2").arg(run.toMap()["first"].toInt()).arg(run.toMap()["last"].toInt()));
+        runs.append(QString("%1-%2").arg(run.toList().at(0).toInt()).arg(run.toList().at(1).toInt()));
     return runs.join(' ');
 }
 

@@ -11,6 +11,8 @@ struct GlobalProperty
     enum Keeper {
         NotKept,
         ProjectFile,
+        /// Follows another property; nobody writes it.
+        ReadOnly,
     };
 
     const char *name;

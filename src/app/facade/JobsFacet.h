@@ -2,6 +2,9 @@
 
 #include "app/facade/SettingsFacet.h"
 
+class FramesModel;
+class WebcamGlobal;
+
 /// The background worker as the scene sees it.
 class JobsFacet : public SettingsFacet
 {
@@ -17,10 +20,25 @@ public:
     bool morvaRobotThreadStarted() const;
 
 public slots:
+    bool runMorvaRobot(int jobtype, const QStringList &list, int importTarget);
+    bool runMorvaRobot(int jobtype, const QStringList &list);
+    bool runMorvaRobot(int jobtype);
     void breakMorvaRobot(const QString &retval);
+    void stopMorvaRobot(const QString &retval, const QStringList &sl);
+    void stopMorvaRobot(const QString &retval);
+    void stopMorvaRobot();
+    void stop_MorvaRobot();
+    void beginRobotJob(int jobtype, int importTarget);
 
 signals:
     void currentRobotJobChanged();
     void morvaRobotThreadStartedChanged();
     void stopRobot();
+    void robotRenderThumbs(const QStringList &list, WebcamGlobal *global, FramesModel *kadry,
+                           int importTarget, int actionType);
+    void robotUpdFromRAWs(const QStringList &list, WebcamGlobal *global, FramesModel *kadry, int importTarget,
+                          int actionType);
+    void robotRenderVideo(WebcamGlobal *global, FramesModel *kadry);
+    void robotImportVideo(WebcamGlobal *global, FramesModel *kadry);
+    void robotExportFrames(WebcamGlobal *global, FramesModel *kadry);
 };

@@ -18,6 +18,9 @@ ProjectFacet::ProjectFacet(std::unique_ptr<AppControllers> controllers) : JobsFa
     connect(&life, &ProjectLifecycle::autosaveDelayChanged, this, &ProjectFacet::autosaveDelayChanged);
     connect(&life, &ProjectLifecycle::startProjectLoad, this, &ProjectFacet::startProjectLoad);
     connect(&life, &ProjectLifecycle::beginLoadProject, this, &ProjectFacet::beginLoadProject);
+    const RobotSupervisor &robot = this->controllers().robot;
+    connect(&robot, &RobotSupervisor::connectModel, this, &ProjectFacet::connectModel);
+    connect(&robot, &RobotSupervisor::disconnectModel, this, &ProjectFacet::disconnectModel);
     connect(&life, &ProjectLifecycle::connectModel, this, &ProjectFacet::connectModel);
     connect(&life, &ProjectLifecycle::disconnectModel, this, &ProjectFacet::disconnectModel);
     connect(&life, &ProjectLifecycle::confirmClose, this, &ProjectFacet::confirmClose);

@@ -7,6 +7,8 @@
 
 ShellFacet::ShellFacet(std::unique_ptr<AppControllers> controllers) : ProjectFacet(std::move(controllers))
 {
+    connect(&this->controllers().robot, &RobotSupervisor::dialogIsOver, this,
+            [this] { setQmlDialogUrl(QString()); });
 }
 
 QString ShellFacet::qmlDialogUrl() const

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "shared/global/RenderState.h"
+#include "shared/global/EffectState.h"
 
 #include <QString>
 
 /// The command bus: a press in the scene emits one of these signals, and whoever cares is connected to it.
 /// They carry no state; the sender does not know who listens.
-class CommandBus : public RenderState
+class CommandBus : public EffectState
 {
     Q_OBJECT
 
 public:
-    using RenderState::RenderState;
+    using EffectState::EffectState;
 
 signals:
     // Dialogs and focus

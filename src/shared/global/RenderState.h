@@ -15,7 +15,8 @@ class RenderState : public PlayerState
     MORVANE_PROPERTY(QString, renderFormatNameStr, RenderFormatNameStr, QStringLiteral("avi"))
     MORVANE_PROPERTY(QString, renderExt, RenderExt, QStringLiteral("avi"))
     MORVANE_PROJECT_PROPERTY(QString, renderFileName, RenderFileName, QStringLiteral("videotest"))
-    MORVANE_PROJECT_PROPERTY(int, renderBitrate, RenderBitrate, 0)
+    /// Bits a second. Only old projects bring another; a render refuses to start below 1000.
+    MORVANE_PROJECT_PROPERTY(int, renderBitrate, RenderBitrate, 8000000)
     MORVANE_PROPERTY(int, renderQmax, RenderQmax, 2)
     MORVANE_PROJECT_PROPERTY(bool, renderTimecode, RenderTimecode, false)
     MORVANE_PROJECT_PROPERTY(int, videoExportPolicy, VideoExportPolicy, Zum::ExportPolicyCropped)
@@ -35,9 +36,6 @@ class RenderState : public PlayerState
     MORVANE_PROJECT_PROPERTY(QString, exportPath, ExportPath)
     MORVANE_PROJECT_PROPERTY(bool, translitOn, TranslitOn, false)
     MORVANE_PROJECT_PROPERTY(QVariantMap, webpSettings, WebpSettings)
-    MORVANE_PROJECT_PROPERTY(QString, videoEffectsString, VideoEffectsString)
-    MORVANE_PROPERTY(QString, videoEffectsStringParsed, VideoEffectsStringParsed)
-    MORVANE_PROPERTY(bool, applyPostProcessEffects, ApplyPostProcessEffects, false)
 
 public:
     using PlayerState::PlayerState;

@@ -45,7 +45,8 @@ private slots:
     void cutPictureIsTold();
     void cutPictureIsToldOnlyIfWanted();
     void slightCutIsNotTold();
-    void look();
+    void viewSaysThatThereIsNoCamera();
+    void projectWithoutFramesSaysWhatIsNext();
 
 private:
     WebcamGlobal &global()
@@ -460,33 +461,24 @@ void TestDisplayLayers::slightCutIsNotTold()
     fresh();
 }
 
-void TestDisplayLayers::look()
+void TestDisplayLayers::viewSaysThatThereIsNoCamera()
 {
-    const QString out = qEnvironmentVariable("LOOK");
-    if (out.isEmpty())
-        return;
-    for (const QSize size : {QSize(1024, 600), QSize(1920, 1080)}) {
-        for (const int font : {1, 8}) {
-            for (const char *locale : {"en_US", "ru_RU"}) {
-                auto options = DisplayWindow::options(size);
-                options.settings.insert("fontsize", font);
-                options.locale = locale;
-                DisplayWindow film(6, options);
-                film.frames().setCurrentIndex(2);
-                film.global().setGridOn(true);
-                film.global().setSafeAreaOn(true);
-                film.global().setCropAreaOn(true);
-                QTest::qWait(500);
-                film.shot().save(
-                    QString("%1/capture-%2-%3-%4.png").arg(out).arg(size.width()).arg(font).arg(locale));
-                film.global().setMainTabsState("timingUIisOn");
-                QTest::qWait(500);
-                film.shot().save(
-                    QString("%1/timing-%2-%3-%4.png").arg(out).arg(size.width()).arg(font).arg(locale));
-                qDebug() << film.sceneWarnings();
-            }
-        }
-    }
+    const QString text = QStringLiteral("No camera: the captured frame shows");
+    QVERIFY(m_film->findItem("text", text, m_film->display()) != nullptr);
+    global().setConnected(true);
+    QVERIFY(m_film->findItem("text", text, m_film->display()) == nullptr);
+    global().setConnected(false);
+    global().setCamboxState("capturePreviewIsOn");
+    QVERIFY(m_film->findItem("text", text, m_film->display()) == nullptr);
+}
+
+void TestDisplayLayers::projectWithoutFramesSaysWhatIsNext()
+{
+    const QString text = QStringLiteral("The project is ready. This version cannot connect a camera yet.");
+    QVERIFY(m_film->findItem("text", text, m_film->display()) == nullptr);
+    fresh(0);
+    QVERIFY(m_film->findItem("text", text, m_film->display()) != nullptr);
+    fresh();
 }
 
 QTEST_MAIN(TestDisplayLayers)

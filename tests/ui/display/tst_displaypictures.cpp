@@ -4,8 +4,8 @@
 #include <QPainter>
 #include <QTest>
 
-/// The view's pictures in each state against stored ones. Run with MORVANE_RENEW_PICTURES=1 to store them anew, and
-/// look at each.
+/// The view's pictures in each state against stored ones. Run with MORVANE_RENEW_PICTURES=1 to store them
+/// anew, and look at each.
 class TestDisplayPictures : public QObject
 {
     Q_OBJECT
@@ -105,7 +105,8 @@ void TestDisplayPictures::composition_data()
     const char *captured = "capturePreviewIsOn";
     const char *reference = "referencePreviewIsOn";
     QTest::newRow("live") << Map{{"camboxState", live}};
-    QTest::newRow("live-with-device") << Map{{"camboxState", live}, {"connected", true}, {"opacityLiveView", 60}};
+    QTest::newRow("live-with-device")
+        << Map{{"camboxState", live}, {"connected", true}, {"opacityLiveView", 60}};
     QTest::newRow("captured") << Map{{"camboxState", captured}};
     QTest::newRow("captured-faint") << Map{{"camboxState", captured}, {"opacityCaptured", 40}};
     QTest::newRow("reference") << Map{{"camboxState", reference}, {"opacityReference", 70}};
@@ -114,19 +115,14 @@ void TestDisplayPictures::composition_data()
     QTest::newRow("onion-future") << Map{{"stackMode", int(Zum::StackFuture)}, {"opacityCaptured", 80}};
     QTest::newRow("blend-difference") << Map{{"camboxState", captured}, {"blend", int(Zum::BlendDifference)}};
     QTest::newRow("blend-screen") << Map{{"camboxState", reference}, {"blend", int(Zum::BlendScreen)}};
-    QTest::newRow("lines") << Map{{"camboxState", captured},
-                                  {"cropAreaOn", true},
-                                  {"marginsOn", true},
-                                  {"gridOn", true},
-                                  {"gridHStep", 40},
-                                  {"gridVStep", 40},
-                                  {"crossOn", true},
-                                  {"safeAreaOn", true},
-                                  {"ruleOfThirdsGridOn", true},
-                                  {"cropAreaW", 240},
-                                  {"cropAreaH", 136}};
-    QTest::newRow("lines-zoomed") << Map{{"camboxState", captured}, {"cropAreaOn", true}, {"safeAreaOn", true},
-                                         {"crossOn", true},         {"wideCross", true},  {"camScaleFactor", 0.6}};
+    QTest::newRow("lines") << Map{
+        {"camboxState", captured}, {"cropAreaOn", true}, {"marginsOn", true},
+        {"gridOn", true},          {"gridHStep", 40},    {"gridVStep", 40},
+        {"crossOn", true},         {"safeAreaOn", true}, {"ruleOfThirdsGridOn", true},
+        {"cropAreaW", 240},        {"cropAreaH", 136}};
+    QTest::newRow("lines-zoomed") << Map{{"camboxState", captured}, {"cropAreaOn", true},
+                                         {"safeAreaOn", true},      {"crossOn", true},
+                                         {"wideCross", true},       {"camScaleFactor", 0.6}};
 }
 
 void TestDisplayPictures::composition()

@@ -2,7 +2,8 @@
 
 #include <QTest>
 
-/// The tabs below the picture and the tools beside it: what they set, what they say, and how they are reached.
+/// The tabs below the picture and the tools beside it: what they set, what they say, and how they are
+/// reached.
 class TestDisplayTools : public QObject
 {
     Q_OBJECT
@@ -220,7 +221,8 @@ void TestDisplayTools::slidersSetTheOpacities()
 void TestDisplayTools::sliderFollowsTheOpacity()
 {
     global().setOpacityCaptured(33);
-    QCOMPARE(m_film->findItem("toolTip", "Opacity of the captured frame", tabs())->property("value").toReal(), 33.0);
+    QCOMPARE(m_film->findItem("toolTip", "Opacity of the captured frame", tabs())->property("value").toReal(),
+             33.0);
 }
 
 void TestDisplayTools::narrowTabsShowAsPictures()
@@ -436,7 +438,9 @@ void TestDisplayTools::filtersAreShownOrNot()
     m_film->click(m_film->findItem("toolTip", "Show pictures as they are", column()));
     QCOMPARE(global().postProcessing(), int(Zum::NoProcessing));
     global().removePostProcessSetting("contrast");
-    QVERIFY(!m_film->findItem("toolTip", "Show pictures with the filters", column())->property("active").toBool());
+    QVERIFY(!m_film->findItem("toolTip", "Show pictures with the filters", column())
+                 ->property("active")
+                 .toBool());
     m_film->click(m_film->findItem("toolTip", "Filters of the picture", column()));
     QCOMPARE(m_film->window().qmlDialogUrl(), QStringLiteral("PostProcessFiltersDialog.qml"));
 }
@@ -454,15 +458,17 @@ void TestDisplayTools::currentFrameIsMirrored()
 
 void TestDisplayTools::pictureIsTheLargestThing()
 {
+    m_film->frames().setDoubleDecker(false);
     m_film->window().resize(1024, 600);
     QVERIFY(m_film->settle());
     const auto area = [](const QQuickItem *item) {
         return item->width() * item->height();
     };
     const qreal picture = area(m_film->flicker());
-    for (const char *id : {"topLine", "mainControlBox", "screenControls", "controlsPanesBox", "timelineBox",
-                           "statusBar"})
-        QVERIFY2(area(m_film->item(id)) < picture, id);
+    for (const char *id :
+         {"topLine", "mainControlBox", "screenControls", "controlsPanesBox", "timelineBox", "statusBar"})
+        QVERIFY2(area(m_film->item(id)) < picture,
+                 qPrintable(QStringLiteral("%1: %2 to %3").arg(id).arg(area(m_film->item(id))).arg(picture)));
     m_film->window().resize(1280, 760);
 }
 

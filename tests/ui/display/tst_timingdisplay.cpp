@@ -57,7 +57,10 @@ private:
     bool shows(const QColor &color)
     {
         return QTest::qWaitFor(
-            [=, this] { return DisplayWindow::near(m_film->colorAt(ramView(), {0.3, 0.3}), color); }, 3000);
+            [=, this] {
+                return DisplayWindow::near(m_film->colorAt(ramView(), {0.3, 0.3}), color);
+            },
+            3000);
     }
     QObject *size()
     {
@@ -235,7 +238,8 @@ void TestTimingDisplay::helperLinesFollowThePicture()
     const QPointF third = ramView()->mapToScene({ramView()->width() / 3, ramView()->height() / 2});
     bool seen = false;
     for (int dx = -2; dx <= 2; ++dx)
-        seen = seen || DisplayWindow::near(shot.pixelColor(third.toPoint() + QPoint(dx, 0)), QColor(0, 255, 0));
+        seen =
+            seen || DisplayWindow::near(shot.pixelColor(third.toPoint() + QPoint(dx, 0)), QColor(0, 255, 0));
     QVERIFY(seen);
     global().setRuleOfThirdsGridOn(false);
 }
@@ -258,7 +262,8 @@ void TestTimingDisplay::histogramShowsAndRestsWhilePlaying()
     QVERIFY(preview()->property("histogramOn").toBool());
     frames().setCurrentIndex(3);
     QTRY_COMPARE(pane->property("histogramDataR").toList().size(), 257);
-    QVERIFY(pane->property("histogramDataR").toList().at(DisplayWindow::capturedColor(3).red()).toReal() > 0.5);
+    QVERIFY(pane->property("histogramDataR").toList().at(DisplayWindow::capturedColor(3).red()).toReal()
+            > 0.5);
     frames().setTimelineRangeStart(0);
     frames().setTimelineRangeEnd(3);
     frames().play();

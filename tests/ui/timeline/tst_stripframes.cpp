@@ -39,6 +39,8 @@ private slots:
     void unconnectedListHasNoModelAndABusySign();
     void arrowsTurnPages();
     void compactFormShowsTheFramesAlone();
+    void everyFontSizeLeavesRoomForTheFrames_data();
+    void everyFontSizeLeavesRoomForTheFrames();
 
 private:
     QQuickItem *box(int row)
@@ -443,12 +445,14 @@ void TestStripFrames::unconnectedListHasNoModelAndABusySign()
     QVERIFY(d->settle());
     emit d->window().disconnectModel();
     QVERIFY(!d->timeline("strip.connected").toBool());
-    QCOMPARE(d->framesMade(), 0);
+    QCOMPARE(d->timeline("strip.flickable.count").toInt(), 0);
+    QVERIFY(d->settle());
+    QCOMPARE(d->colorAt(d->strip(), {100, 20}), QColor("#333333"));
     QCOMPARE(d->itemsOf("BusySign", d->strip()).size(), 1);
     QVERIFY(d->findItem("text", "No Frames") == nullptr);
     emit d->window().connectModel();
     QVERIFY(d->settle());
-    QVERIFY(d->framesMade() > 0);
+    QVERIFY(d->colorAt(d->strip(), {100, 20}) != QColor("#333333"));
     QVERIFY(d->itemsOf("BusySign", d->strip()).isEmpty());
     QCOMPARE(d->timeline("strip.flickable.currentIndex").toInt(), 30);
     d->frames().setCurrentIndex(20);
@@ -480,6 +484,38 @@ void TestStripFrames::compactFormShowsTheFramesAlone()
     QCOMPARE(d->strip()->x(), 0.0);
     d->clickFrame(3);
     QCOMPARE(d->frames().currentIndex(), 3);
+}
+
+void TestStripFrames::everyFontSizeLeavesRoomForTheFrames_data()
+{
+    QTest::addColumn<int>("fontSize");
+    for (const int size : {0, 1, 3, 5, 8})
+        QTest::addRow("%d", size) << size;
+}
+
+void TestStripFrames::everyFontSizeLeavesRoomForTheFrames()
+{
+    QFETCH(int, fontSize);
+    ShellWindow::Options options;
+    options.settings.insert("fontsize", fontSize);
+    options.size = {1024, 600};
+    d.reset();
+    d = std::make_unique<StripWindow>(8, options);
+    for (const char *tab : {"captureUIisOn", "timingUIisOn"}) {
+        d->showTab(tab);
+        for (const bool two : {false, true}) {
+            d->frames().setDoubleDecker(two);
+            QVERIFY(d->settle());
+            const qreal height = d->timeline("height").toReal();
+            QVERIFY(height <= 300);
+            QVERIFY2(d->strip()->height() > height * 0.3, qPrintable(QString::number(d->strip()->height())));
+            QVERIFY(thumbs(1).constFirst()->height() > (two ? 15 : 40));
+            // Nothing stands outside of its place.
+            QQuickItem *bar = d->itemsOf("ProgressControl").value(0);
+            QVERIFY(bar != nullptr && bar->width() > 200);
+            QVERIFY(bar->mapToScene({0, 0}).y() >= d->strip()->mapToScene({0, d->strip()->height()}).y() - 1);
+        }
+    }
 }
 
 QTEST_MAIN(TestStripFrames)

@@ -1,0 +1,182 @@
+#include "ui/render/RenderWindow.h"
+
+#include <functional>
+#include <QDir>
+#include <QImage>
+#include <QQuickWindow>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The first shown item, in depth-first order, for which `wanted` holds.
+QQuickItem *findShown(QQuickItem *item, const std::function<bool(QQuickItem *)> &wanted)
+{
+    if (!item->isVisible())
+        return nullptr;
+    if (wanted(item))
+        return item;
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = findShown(child, wanted))
+            return found;
+    }
+    return nullptr;
+}
+
+bool isText(const QQuickItem *item)
+{
+    return item->inherits("QQuickText");
+}
+
+/// Scrolls what holds the item, as the wheel would.
+void bringIntoSight(QQuickItem *item)
+{
+    for (QQuickItem *above = item->parentItem(); above != nullptr; above = above->parentItem()) {
+        if (!above->inherits("QQuickFlickable") || above->height() <= 0)
+            continue;
+        const double top = item->mapToItem(above, QPointF(0, 0)).y();
+        const double bottom = top + item->height();
+        const double at = above->property("contentY").toDouble();
+        if (bottom > above->height())
+            above->setProperty("contentY", at + bottom - above->height());
+        else if (top < 0)
+            above->setProperty("contentY", at + top);
+    }
+}
+
+} // namespace
+
+RenderWindow::RenderWindow() : RenderWindow(Options())
+{
+}
+
+RenderWindow::RenderWindow(const Options &options) : m_options(options)
+{
+    start();
+}
+
+void RenderWindow::start()
+{
+    ShellWindow::Options options;
+    options.settingsPath = m_folder.filePath(u"settings.ini"_s);
+    options.size = m_options.size;
+    options.locale = m_options.locale;
+    options.settings = m_options.settings;
+    options.settings.insert(u"fontsize"_s, m_options.fontRow);
+    m_shell = std::make_unique<ShellWindow>(options);
+    global().setSoundsOn(false);
+    QVERIFY(m_shell->createProject(u"film%1"_s.arg(++m_films)));
+    m_shell->addFrames(m_options.frames);
+    frames().setTimelineRangeStart(0);
+    frames().setTimelineRangeEnd(qMax(0, m_options.frames - 1));
+    global().setMainTabsState(u"timingUIisOn"_s);
+    QVERIFY(m_shell->settle());
+}
+
+void RenderWindow::restart()
+{
+    m_shell.reset();
+    m_options.settings.clear();
+    start();
+}
+
+void RenderWindow::writePictures(QSize size)
+{
+    const QString folder = window().capFullDirPath();
+    for (int row = 0; row < frames().framesCount(); ++row) {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(QColor::fromHsv(row * 37 % 360, 200, 200));
+        QVERIFY(image.save(folder + frames().get(row).value(u"capFull"_s).toString()));
+    }
+}
+
+QQuickItem *RenderWindow::part(const QString &objectName) const
+{
+    return findShown(m_shell->window().contentItem(),
+                     [&](QQuickItem *item) { return item->objectName() == objectName; });
+}
+
+QQuickItem *RenderWindow::text(const QString &text) const
+{
+    return findShown(m_shell->window().contentItem(), [&](QQuickItem *item) {
+        return isText(item) && item->property("text").toString() == text;
+    });
+}
+
+QQuickItem *RenderWindow::entry(const QString &text) const
+{
+    return findShown(m_shell->window().contentItem(), [&](QQuickItem *item) {
+        return item->property("shortcut").isValid() && item->property("text").toString() == text;
+    });
+}
+
+QString RenderWindow::textOf(const QString &objectName) const
+{
+    const QQuickItem *item = part(objectName);
+    return item != nullptr ? item->property("text").toString() : QString();
+}
+
+QQuickItem *RenderWindow::choice(const QString &rowName, int index) const
+{
+    QQuickItem *row = part(rowName);
+    return row == nullptr ? nullptr : findShown(row, [index](QQuickItem *item) {
+        return item->property("modelData").isValid() && item->property("index") == index;
+    });
+}
+
+void RenderWindow::click(QQuickItem *item)
+{
+    QVERIFY(item != nullptr);
+    QVERIFY(m_shell->settle());
+    bringIntoSight(item);
+    m_shell->click(item);
+}
+
+void RenderWindow::click(const QString &objectName)
+{
+    click(part(objectName));
+}
+
+void RenderWindow::clickText(const QString &shown)
+{
+    click(text(shown));
+}
+
+void RenderWindow::type(const QString &objectName, const QString &typed)
+{
+    QQuickItem *field = part(objectName);
+    QVERIFY(field != nullptr);
+    QQuickItem *editor = findShown(field, [](QQuickItem *item) { return item->inherits("QQuickTextInput"); });
+    click(editor);
+    QTRY_VERIFY(editor->hasActiveFocus());
+    m_shell->press(Qt::Key_A, Qt::ControlModifier);
+    for (const QChar letter : typed)
+        QTest::keyClick(&m_shell->window(), letter.toLatin1());
+    m_shell->press(Qt::Key_Return);
+}
+
+QStringList RenderWindow::textsOutside(QQuickItem *item)
+{
+    QStringList outside;
+    const QRectF box = item->mapRectToScene(item->boundingRect());
+    findShown(item, [&](QQuickItem *candidate) {
+        if (!isText(candidate) || candidate->property("text").toString().isEmpty())
+            return false;
+        const QRectF area = candidate->mapRectToScene(candidate->boundingRect());
+        const bool cut = candidate->property("contentWidth").toReal() > candidate->width() + 1
+                         || candidate->property("truncated").toBool();
+        if (cut || area.left() < box.left() - 1 || area.right() > box.right() + 1)
+            outside.append(candidate->property("text").toString());
+        return false;
+    });
+    return outside;
+}
+
+void RenderWindow::keepPicture(const QString &name) const
+{
+    const QString folder = qEnvironmentVariable("MORVANE_TEST_PICTURES");
+    if (!folder.isEmpty())
+        m_shell->window().grabWindow().save(folder + u'/' + name + u".png"_s);
+}
