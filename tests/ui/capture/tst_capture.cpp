@@ -93,8 +93,8 @@ void TestCapture::twoQuickPressesMakeOneShot()
     CaptureWindow shell;
     QVERIFY(shell.connectCamera());
     QSignalSpy asked(&shell.global(), &WebcamGlobal::captureFrame);
-    shell.press(Qt::Key_Return);
-    shell.press(Qt::Key_Return);
+    // The second comes before the first could have ended.
+    shell.evaluate("keyHandler.onReturn(); keyHandler.onReturn()");
     QCOMPARE(asked.count(), 1);
     QTRY_COMPARE(shell.framesNow(), 1);
     QTest::qWait(150);
