@@ -24,7 +24,7 @@ Item {
             FramesModel.actionOnSelectedFrames(Zum.ActDelete);
         } else if (MainWindow.projectLoaded && WebcamGlobal.capturingInprogress === -1 && WebcamGlobal.connected) {
             WebcamGlobal.doCaptureFrame();
-        } else {
+        } else if (MainWindow.projectLoaded) {
             WebcamGlobal.accessToUnavailFeature(Zum.CameraCapture);
         }
         FramesModel.copyModeOn = false;

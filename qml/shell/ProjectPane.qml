@@ -41,6 +41,7 @@ Column {
         }
 
         TextButton {
+            width: Math.min(implicitWidth, parent.width)
             text: qsTr("Presets")
             icon: "svgicons/preset.svg"
             toolTip: qsTr("Choose a frame size and rate from a list")
@@ -102,6 +103,7 @@ Column {
             spacing: DefFontSizeMicro
 
             TextButton {
+                width: Math.min(implicitWidth, parent.width)
                 text: qsTr("Save Project As")
                 icon: "svgicons/save-as.svg"
                 toolTip: qsTr("Save under another name, pictures and all")
@@ -109,6 +111,7 @@ Column {
             }
 
             TextButton {
+                width: Math.min(implicitWidth, parent.width)
                 text: qsTr("Import Project")
                 icon: "svgicons/add.svg"
                 toolTip: qsTr("Add the frames of another project at the end, with copies of their pictures")
@@ -116,6 +119,7 @@ Column {
             }
 
             TextButton {
+                width: Math.min(implicitWidth, parent.width)
                 text: qsTr("Close Project")
                 icon: "svgicons/close.svg"
                 toolTip: WebcamGlobal.projectChanged ? qsTr("Save the project before it is closed") : qsTr("Close the project")
@@ -124,6 +128,7 @@ Column {
             }
 
             TextButton {
+                width: Math.min(implicitWidth, parent.width)
                 text: qsTr("Clean Up")
                 icon: "svgicons/trash.svg"
                 toolTip: qsTr("Save, and remove pictures that no frame uses any more")

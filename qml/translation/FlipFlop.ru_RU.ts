@@ -29,11 +29,11 @@
     </message>
     <message>
         <source>Off</source>
-        <translation>Выкл.</translation>
+        <translation>Нет</translation>
     </message>
     <message>
         <source>sec.</source>
-        <translation>с</translation>
+        <translation>сек.</translation>
     </message>
 </context>
 </TS>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Max</source>
-        <translation>Макс.</translation>
+        <translation>Много</translation>
     </message>
     <message>
         <source>Middle</source>
@@ -17,11 +17,11 @@
     </message>
     <message>
         <source>Min</source>
-        <translation>Мин.</translation>
+        <translation>Мало</translation>
     </message>
     <message>
         <source>Set FPS to Min to reduce CPU usage</source>
-        <translation>Выберите «Мин.», чтобы меньше нагружать процессор</translation>
+        <translation>Выберите «Мало», чтобы меньше нагружать процессор</translation>
     </message>
 </context>
 </TS>

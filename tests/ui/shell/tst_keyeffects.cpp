@@ -219,7 +219,7 @@ void TestKeyEffects::f1ShowsTheDocs()
 
 void TestKeyEffects::f5ByTabAndConnection()
 {
-    QCOMPARE(pressed(Qt::Key_F5), QStringList{"capturingDeviceConnect"});
+    QVERIFY(pressed(Qt::Key_F5).contains("capturingDeviceConnect"));
     global().setConnected(true);
     pressed(Qt::Key_F5);
     QCOMPARE(dialog(), QString("CamReconnectConfirmDialog.qml"));

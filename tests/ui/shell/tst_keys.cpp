@@ -194,19 +194,19 @@ void TestKeys::returnDeletesWhenArmed()
 void TestKeys::returnCapturesWhenConnected()
 {
     QVERIFY(shell->createProject());
-    QCOMPARE(pressed(Qt::Key_Return), QStringList());
+    QCOMPARE(pressed(Qt::Key_Return), QStringList{"accessToUnavailFeature"});
     global().setConnected(true);
-    QCOMPARE(pressed(Qt::Key_Return), QStringList{"doCaptureFrame"});
+    QVERIFY(pressed(Qt::Key_Return).contains("doCaptureFrame"));
     global().setCapturingInprogress(3);
-    QCOMPARE(pressed(Qt::Key_Return), QStringList());
+    QCOMPARE(pressed(Qt::Key_Return), QStringList{"accessToUnavailFeature"});
 }
 
 void TestKeys::keypadEnterCapturesToo()
 {
     QVERIFY(shell->createProject());
     global().setConnected(true);
-    QCOMPARE(pressed(Qt::Key_Enter, Qt::KeypadModifier), QStringList{"doCaptureFrame"});
-    QCOMPARE(pressed(Qt::Key_Return, Qt::KeypadModifier), QStringList{"doCaptureFrame"});
+    QVERIFY(pressed(Qt::Key_Enter, Qt::KeypadModifier).contains("doCaptureFrame"));
+    QVERIFY(pressed(Qt::Key_Return, Qt::KeypadModifier).contains("doCaptureFrame"));
 }
 
 void TestKeys::aHeldLeftKeyMovesOneFrameOnly()
