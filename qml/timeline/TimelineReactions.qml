@@ -142,6 +142,7 @@ Item {
     Timer {
         id: afterLoading
 
+        objectName: "afterLoading"
         interval: 1000
         onTriggered: {
             if (FramesModel.currentIndex === FramesModel.last() && !reactions.strip.movedByHand)

@@ -90,6 +90,7 @@ private slots:
             document.frameSettings->lightboxColor = u"#abcdef"_s;
             document.frameSettings->timelineH = 200;
             document.render->exportVideoFileName = u"movie"_s;
+            document.videoEffectsString = u"cas=strength=5"_s;
             document.render->exportPath = QDir::tempPath();
             document.render->crop = document.frameSettings->crop;
             document.path->data = u"AAEC"_s;
@@ -153,9 +154,10 @@ private slots:
         document.filters.emplace().enabled = 2;
         m_mapping->apply(document);
         log.removeAll(u"changed"_s);
-        // These follow their widths.
+        // These follow their widths and the effect's text.
         for (const QString &name :
-             {u"exportSize"_s, u"exportSizeH"_s, u"sequenceExportSize"_s, u"sequenceExportSizeH"_s})
+             {u"exportSize"_s, u"exportSizeH"_s, u"sequenceExportSize"_s, u"sequenceExportSizeH"_s,
+              u"videoEffectsStringParsed"_s, u"applyPostProcessEffects"_s})
             log.removeAll(name);
         QCOMPARE(log, QStringList({u"backgroundPreviewScale"_s,
                                    u"backgroundOn"_s,

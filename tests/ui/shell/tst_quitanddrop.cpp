@@ -67,7 +67,11 @@ QUrl TestQuitAndDrop::fileIn(ShellWindow &shell, const QString &name)
 void TestQuitAndDrop::choose(ShellWindow &shell, const char *entry)
 {
     shell.click(shell.findItem("toolTip", "Main menu"));
-    QQuickItem *row = shell.findItem("text", entry, shell.window().contentItem()->childItems().constLast());
+    // The panel lies over all else, and other screens may offer the same words.
+    QQuickItem *row = nullptr;
+    const QList<QQuickItem *> layers = shell.window().contentItem()->childItems();
+    for (auto layer = layers.crbegin(); layer != layers.crend() && !row; ++layer)
+        row = shell.findItem("text", entry, *layer);
     QVERIFY2(row != nullptr, entry);
     shell.click(row);
     QVERIFY(!shell.findItem("toolTip", "Main menu")->property("opened").toBool());
