@@ -6,6 +6,8 @@ Column {
 
     // The tabs, for a place that never scrolls away where there is one.
     property Item tabsPlace: null
+    // Without it the capture button stands elsewhere.
+    property bool withButton: true
     readonly property alias tabs: cameraTabs
 
     // The panel's file binds to the device object, so it comes after that.
@@ -46,7 +48,7 @@ Column {
 
             parent: captureControlsPane.tabsPlace ? captureControlsPane.tabsPlace : tabsBelow
             width: parent ? parent.width : 0
-            withButton: captureControlsPane.tabsPlace !== null
+            withButton: captureControlsPane.withButton
         }
     }
 

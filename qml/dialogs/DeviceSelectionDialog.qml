@@ -67,7 +67,7 @@ DialogBox {
         toolTip: qsTr("Try to set device index manually")
         minimum: 0
         maximum: dialog.highestIndex
-        value: Math.min(WebcamGlobal.camindex, dialog.highestIndex)
+        value: WebcamGlobal.camindex <= dialog.highestIndex ? WebcamGlobal.camindex : 0
         onEdited: index => CameraList.choose(index)
     }
 }

@@ -12,6 +12,8 @@ Rectangle {
     // What one shoots and renders with never scrolls away, unless the window is too low for it.
     readonly property bool roomyToShoot: height > 40 * DefFontSizeNormal
     readonly property bool roomyToRender: height > 24 * DefFontSizeNormal
+    // In a lower one the capture button alone, where something else is still to be seen beside it.
+    readonly property bool pinsButton: !roomyToShoot && height > 11 * DefFontSizeNormal
 
     // Without a project there is nothing to set.
     width: shown && MainWindow.projectLoaded ? Math.min(ControlsPanesBoxW, parent.width * 0.36) : 0
@@ -42,6 +44,7 @@ Rectangle {
                 visible: controlsPanesBox.captures
                 sourceComponent: CaptureControlsPane {
                     tabsPlace: controlsPanesBox.roomyToShoot ? shootingPlace : null
+                    withButton: !controlsPanesBox.pinsButton
                 }
             }
 
@@ -90,7 +93,7 @@ Rectangle {
 
             CaptureButton {
                 width: parent.width
-                visible: !controlsPanesBox.roomyToShoot
+                visible: controlsPanesBox.pinsButton
             }
         }
 
