@@ -5,8 +5,8 @@
 #include <QImage>
 #include <vector>
 
-// bare_filters PICTURE RUNS: the milliseconds that OpenCV alone takes for contrast and denoise of one picture,
-// with the settings of the program's own chain.
+// bare_filters PICTURE RUNS: the milliseconds that OpenCV alone takes for contrast and denoise of one
+// picture, with the settings of the program's own chain.
 int main(int argc, char **argv)
 {
     if (argc < 3)

@@ -7,8 +7,8 @@
 #include <QFile>
 #include <QImageReader>
 
-// make_film PROJECT.kzfx FRAMES COUNT [filters]: a project of COUNT frames which shows the pictures of a folder,
-// again and again; with "filters", contrast and denoise are on.
+// make_film PROJECT.kzfx FRAMES COUNT [filters]: a project of COUNT frames which shows the pictures of a
+// folder, again and again; with "filters", contrast and denoise are on.
 int main(int argc, char **argv)
 {
     if (argc < 4)

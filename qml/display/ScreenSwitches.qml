@@ -16,7 +16,7 @@ Column {
         icon: "svgicons/filters.svg"
         toggled: WebcamGlobal.hasPostProcessSettings
         toolTip: qsTr("Filters of the picture")
-        onClicked: switches.scene.postProcessFiltersBox()
+        onClicked: switches.scene.filtersBox()
     }
 
     // Before and after.

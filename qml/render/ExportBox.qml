@@ -93,7 +93,7 @@ Pane {
                 objectName: "openEffects"
                 icon: "svgicons/edit.svg"
                 toolTip: qsTr("Choose a video effect and its values")
-                onClicked: box.scene.videoEffectsBox()
+                onClicked: box.scene.postProcessFiltersBox()
             }
 
             RemoveVideoEffectBtn {

@@ -26,7 +26,7 @@ Column {
             icon: "svgicons/filters.svg"
             text: qsTr("More Filters")
             toolTip: qsTr("All filters, with the key color and the background")
-            onClicked: renderPane.scene.postProcessFiltersBox()
+            onClicked: renderPane.scene.filtersBox()
         }
     }
 

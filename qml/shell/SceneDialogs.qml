@@ -44,12 +44,13 @@ FocusScope {
         showDialog("ProjectPresets.qml");
     }
 
-    function postProcessFiltersBox() {
-        showDialog("PostProcessFiltersDialog.qml");
+    function filtersBox() {
+        showDialog("FiltersDialog.qml");
     }
 
-    function videoEffectsBox() {
-        showDialog("VideoEffectsDialog.qml");
+    // The effects that a render applies.
+    function postProcessFiltersBox() {
+        showDialog("PostProcessFiltersDialog.qml");
     }
 
     function aboutBox() {

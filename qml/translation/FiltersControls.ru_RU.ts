@@ -40,4 +40,15 @@
         <translation>Сглаживает зерно, сохраняя контуры; 0 — выключено</translation>
     </message>
 </context>
+<context>
+    <name>FiltersDialog</name>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Фильтры</translation>
+    </message>
+</context>
 </TS>

@@ -4,12 +4,20 @@
 <context>
     <name>PostProcessFiltersDialog</name>
     <message>
+        <source>Applied to every frame of the movie</source>
+        <translation>Применяется к каждому кадру фильма</translation>
+    </message>
+    <message>
         <source>Close</source>
         <translation>Закрыть</translation>
     </message>
     <message>
-        <source>Filters</source>
-        <translation>Фильтры</translation>
+        <source>No Effect</source>
+        <translation>Без эффекта</translation>
+    </message>
+    <message>
+        <source>Video Effects</source>
+        <translation>Видеоэффекты</translation>
     </message>
 </context>
 </TS>

@@ -184,23 +184,4 @@
         <translation>Серый цвет, которым становится самая тёмная точка</translation>
     </message>
 </context>
-<context>
-    <name>VideoEffectsDialog</name>
-    <message>
-        <source>Applied to every frame of the movie</source>
-        <translation>Применяется к каждому кадру фильма</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Закрыть</translation>
-    </message>
-    <message>
-        <source>No Effect</source>
-        <translation>Без эффекта</translation>
-    </message>
-    <message>
-        <source>Video Effects</source>
-        <translation>Видеоэффекты</translation>
-    </message>
-</context>
 </TS>

@@ -14,6 +14,8 @@ private slots:
     void init();
     void firstRunHasTheDefaults();
     void storedChoicesAreTaken();
+    void choicesOfTheRender_data();
+    void choicesOfTheRender();
     void inactivityStaysInItsLimits_data();
     void inactivityStaysInItsLimits();
     void timelineScale_data();
@@ -70,6 +72,41 @@ void TestStartupSettings::storedChoicesAreTaken()
     QCOMPARE(global.inactivityMaximum(), 30);
     const startup::WindowFlags flags = startup::windowFlags(*settings);
     QVERIFY(flags.preview && flags.lightbox && flags.oscilloscope && flags.village);
+}
+
+void TestStartupSettings::choicesOfTheRender_data()
+{
+    QTest::addColumn<QVariant>("format");
+    QTest::addColumn<QVariant>("quality");
+    QTest::addColumn<QVariant>("policy");
+    QTest::addColumn<QString>("takenFormat");
+    QTest::addColumn<int>("takenQuality");
+    QTest::addColumn<int>("takenPolicy");
+    QTest::newRow("none") << QVariant() << QVariant() << QVariant() << "avi" << 2 << 0;
+    QTest::newRow("lowest") << QVariant("ogv") << QVariant(0) << QVariant(0) << "ogv" << 0 << 0;
+    QTest::newRow("highest") << QVariant("raw") << QVariant(3) << QVariant(3) << "raw" << 3 << 3;
+    QTest::newRow("below") << QVariant("") << QVariant(-1) << QVariant(-1) << "avi" << 2 << 0;
+    QTest::newRow("above") << QVariant("mjpg") << QVariant(4) << QVariant(4) << "avi" << 2 << 0;
+    QTest::newRow("nonsense") << QVariant(7) << QVariant("fine") << QVariant("crop") << "avi" << 2 << 0;
+}
+
+void TestStartupSettings::choicesOfTheRender()
+{
+    QFETCH(QVariant, format);
+    QFETCH(QVariant, quality);
+    QFETCH(QVariant, policy);
+    const auto store = [this](const QString &key, const QVariant &value) {
+        if (value.isValid())
+            settings->setValue(key, value);
+    };
+    store("renderVideoFormat", format);
+    store("renderQmax", quality);
+    store("videoExportPolicy", policy);
+    WebcamGlobal global;
+    startup::readInto(global, *settings);
+    QTEST(global.renderFormatNameStr(), "takenFormat");
+    QTEST(global.renderQmax(), "takenQuality");
+    QTEST(global.videoExportPolicy(), "takenPolicy");
 }
 
 void TestStartupSettings::inactivityStaysInItsLimits_data()

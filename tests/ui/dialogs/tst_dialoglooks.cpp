@@ -132,7 +132,7 @@ void TestDialogLooks::showsEveryTextWhole()
         {"CamReconnectConfirmDialog", ""},
         {"CamDisconnectConfirmDialog", ""},
         {"CamReloadDeviceConfirmDialog", ""},
-        {"PostProcessFiltersDialog", ""},
+        {"FiltersDialog", ""},
         {"ProjectPresets", ""},
         {"About", ""},
     };

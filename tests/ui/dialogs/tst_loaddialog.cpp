@@ -23,6 +23,7 @@ private slots:
     void simulatesTheProgressOfATotalOfOne();
     void staysCompletedWhenAskedTo();
     void offersTheVideo();
+    void offersTheVideoOfAJobThatBeganBefore();
     void offersNoVideoThatIsNotThere();
     void offersTheExportedFrames();
     void offersNoFramesOfAnotherJob();
@@ -207,6 +208,17 @@ void TestLoadDialog::offersTheVideo()
     d->click("viewVideo");
     QCOMPARE(d->window.calls, QStringList("showInGraphicalShell /films/fox.avi"));
     QVERIFY(d->isOpen());
+}
+
+void TestLoadDialog::offersTheVideoOfAJobThatBeganBefore()
+{
+    d->host.global().setDialogRemainsVisible(true);
+    d->window.setCurrentRobotJob(Zum::RenderVideo);
+    begin(10);
+    d->host.global().setLastRenderedPath("/films/fox.avi");
+    d->window.setProgressTotal(0);
+    d->window.setCurrentRobotJob(Zum::NoJob);
+    QVERIFY(d->part("viewVideo"));
 }
 
 void TestLoadDialog::offersNoVideoThatIsNotThere()

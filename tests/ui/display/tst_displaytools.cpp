@@ -442,7 +442,7 @@ void TestDisplayTools::filtersAreShownOrNot()
                  ->property("active")
                  .toBool());
     m_film->click(m_film->findItem("toolTip", "Filters of the picture", column()));
-    QCOMPARE(m_film->window().qmlDialogUrl(), QStringLiteral("PostProcessFiltersDialog.qml"));
+    QCOMPARE(m_film->window().qmlDialogUrl(), QStringLiteral("FiltersDialog.qml"));
 }
 
 void TestDisplayTools::currentFrameIsMirrored()

@@ -86,7 +86,7 @@ void TestFilterScreens::cleanup()
 
 void TestFilterScreens::openFilters()
 {
-    m_shell->window().setQmlDialogUrl(u"PostProcessFiltersDialog.qml"_s);
+    m_shell->window().setQmlDialogUrl(u"FiltersDialog.qml"_s);
     QTRY_VERIFY(part("filtersPreview"));
     QVERIFY(m_shell->settle());
 }
@@ -104,7 +104,7 @@ void TestFilterScreens::filtersOpenFromTheTools()
 {
     m_shell->click(part("filtersButton"));
     QTRY_VERIFY(part("filtersPreview"));
-    QCOMPARE(m_shell->window().qmlDialogUrl(), u"PostProcessFiltersDialog.qml"_s);
+    QCOMPARE(m_shell->window().qmlDialogUrl(), u"FiltersDialog.qml"_s);
     m_shell->click(part("closeFilters"));
     QTRY_COMPARE(m_shell->window().qmlDialogUrl(), QString());
 }

@@ -45,7 +45,7 @@ public:
 
     /// Ends the program and starts it anew with its settings and another film.
     void restart();
-    /// Gives every frame a picture of that size on the disk, in a colour that its row gives.
+    /// Gives every frame that has no picture on the disk one of that size, in a colour that its row gives.
     void writePictures(QSize size);
 
     /// The shown item of that object name; null without one.

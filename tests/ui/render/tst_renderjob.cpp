@@ -56,6 +56,8 @@ private:
     QStringList dialogTexts() const;
 
     std::unique_ptr<RenderWindow> w;
+    /// Between the press and the start. Short, where a test waits for it.
+    QObject *pause = nullptr;
 };
 
 namespace {
@@ -78,6 +80,8 @@ void collectTexts(QQuickItem *item, QStringList &texts)
 void TestRenderJob::initTestCase()
 {
     w = std::make_unique<RenderWindow>();
+    pause = w->shell().timer(800);
+    QVERIFY(pause);
 }
 
 void TestRenderJob::cleanupTestCase()
@@ -100,6 +104,7 @@ void TestRenderJob::init()
     g.setPostProcessing(Zum::NoProcessing);
     g.setPostProcessSettings({});
     g.setLastRenderedPath({});
+    pause->setProperty("interval", 20);
     w->frames().setTimelineRangeEnd(11);
     w->writePictures(frameSize);
     w->shell().desktop().shown.clear();
@@ -113,14 +118,9 @@ void TestRenderJob::cleanup()
     QCOMPARE(w->shell().sceneWarnings(), QStringList());
 }
 
-/// Presses the button, with a pause that a test can wait for.
 void TestRenderJob::press()
 {
-    QObject *pause = w->shell().timer(800);
-    QVERIFY(pause);
-    pause->setProperty("interval", 20);
     w->click("startRender");
-    pause->setProperty("interval", 800);
 }
 
 void TestRenderJob::render()
@@ -154,14 +154,16 @@ void TestRenderJob::pressClearsTheWayAndWaits()
     QSignalSpy cleared(&w->global(), &WebcamGlobal::clearCache);
     w->global().setPlayerPlaying(true);
     w->global().setPlayerSource("/films/fox.avi");
-    w->click("startRender");
+    pause->setProperty("interval", 800);
+    press();
     QCOMPARE(cleared.count(), 1);
     QVERIFY(!w->global().playerPlaying());
     QCOMPARE(w->global().playerSource(), "default.avi");
     QCOMPARE(w->dialogFile(), "Empty.qml");
-    QVERIFY(w->shell().timer(800)->property("running").toBool());
+    QVERIFY(pause->property("running").toBool());
     QVERIFY(!w->window().morvaRobotThreadStarted());
     QCOMPARE(w->window().progressTotal(), 0);
+    pause->setProperty("running", false);
 }
 
 void TestRenderJob::pauseRunsToItsEnd()

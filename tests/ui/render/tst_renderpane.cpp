@@ -204,7 +204,7 @@ void TestRenderPane::filterSlidersKeepTheirKeys()
 void TestRenderPane::moreFiltersOpensTheirDialog()
 {
     w->click("moreFilters");
-    QCOMPARE(w->dialogFile(), "PostProcessFiltersDialog.qml");
+    QCOMPARE(w->dialogFile(), "FiltersDialog.qml");
 }
 
 void TestRenderPane::fileNameIsCleaned_data()
@@ -460,7 +460,7 @@ void TestRenderPane::unknownEffectIsNamedAfterItsFilter()
 void TestRenderPane::effectsDialogOpens()
 {
     w->click("openEffects");
-    QCOMPARE(w->dialogFile(), "VideoEffectsDialog.qml");
+    QCOMPARE(w->dialogFile(), "PostProcessFiltersDialog.qml");
     QVERIFY(w->part("effects"));
 }
 
