@@ -90,8 +90,8 @@ void CaptureFacet::cameraConnected()
 int CaptureFacet::addFileCamera()
 {
     AppControllers &c = controllers();
-    const QString path = c.environment.dialogs->openFile(FileCameras::dialogCaption(), QString(),
-                                                         FileCameras::dialogFilter());
+    const QString path =
+        c.environment.dialogs->openFile(FileCameras::dialogCaption(), QString(), FileCameras::dialogFilter());
     return path.isEmpty() ? -1 : tellUnlessAdded(c.capture.files().add(path));
 }
 

@@ -39,8 +39,8 @@ public slots:
     void updateCurrentCapturingDeviceIcon();
     /// Remembers the name of a camera that has just connected.
     void cameraConnected();
-    /// Asks for a movie or the first of numbered images and puts it into the list of cameras. Its index, or -1
-    /// when the user gave up or the file is of no use, which a message tells.
+    /// Asks for a movie or the first of numbered images and puts it into the list of cameras. Its index, or
+    /// -1 when the user gave up or the file is of no use, which a message tells.
     int addFileCamera();
     /// The same with a given path, for this run alone.
     int useFileAsCamera(const QString &path);

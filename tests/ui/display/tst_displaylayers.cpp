@@ -474,7 +474,8 @@ void TestDisplayLayers::viewSaysThatThereIsNoCamera()
 
 void TestDisplayLayers::projectWithoutFramesSaysWhatIsNext()
 {
-    const QString text = QStringLiteral("The project is ready. This version cannot connect a camera yet.");
+    const QString text = QStringLiteral(
+        "The project is ready. Connect a camera, pose the puppet and press Enter for each frame.");
     QVERIFY(m_film->findItem("text", text, m_film->display()) == nullptr);
     fresh(0);
     QVERIFY(m_film->findItem("text", text, m_film->display()) != nullptr);
