@@ -11,6 +11,19 @@ Item {
     readonly property bool noProject: !MainWindow.projectLoaded
     readonly property bool noFrames: MainWindow.projectLoaded && FramesModel.framesCount === 0 && connected
 
+    Blinker {
+        id: blinker
+    }
+
+    Connections {
+        target: WebcamGlobal
+
+        function onAccessToUnavailFeature(feature) {
+            if (feature === Zum.CameraCapture || feature === Zum.ProjectAccess)
+                blinker.blink();
+        }
+    }
+
     Column {
         anchors.centerIn: parent
         width: parent.width - DefFontSizeNormal_x4
@@ -22,6 +35,7 @@ Item {
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
             dim: true
+            opacity: blinker.lit ? 1 : 0.15
             text: messages.noProject
                   ? qsTr("No project. Create or load project to capture, add, remove or modify frames")
                   : qsTr("No Frames")

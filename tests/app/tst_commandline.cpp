@@ -20,6 +20,9 @@ private slots:
     void noPathIsLogged();
     void folderIsNoProject();
     void helpAndVersionAreAnsweredInWords();
+    void cameraIsTheFileBehindItsOption();
+    void projectIsFoundBesideTheCamera();
+    void cameraWithoutAFileIsLogged();
 
 private:
     QTemporaryDir folder;
@@ -31,6 +34,30 @@ void TestCommandLine::initTestCase()
     path = folder.filePath("film.kzfx");
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
+}
+
+void TestCommandLine::cameraIsTheFileBehindItsOption()
+{
+    QCOMPARE(commandline::cameraFile({"morvane"}), QString());
+    QCOMPARE(commandline::cameraFile({"morvane", path}), QString());
+    QCOMPARE(commandline::cameraFile({"morvane", "--camera", "/a/film.avi"}), "/a/film.avi");
+    QCOMPARE(commandline::cameraFile({"morvane", path, "--camera", "film.avi"}),
+             QDir::current().absoluteFilePath("film.avi"));
+    QCOMPARE(commandline::cameraFile({"morvane", "--camera", "file:///a/film.avi"}), "/a/film.avi");
+    QVERIFY(commandline::informationText({"morvane", "--help"}).contains("--camera FILE"));
+}
+
+void TestCommandLine::projectIsFoundBesideTheCamera()
+{
+    QCOMPARE(commandline::projectPath({"morvane", "--camera", "/a/film.avi"}), QString());
+    QCOMPARE(commandline::projectPath({"morvane", "--camera", "/a/film.avi", path}), path);
+    QCOMPARE(commandline::projectPath({"morvane", path, "--camera", "/a/film.avi"}), path);
+}
+
+void TestCommandLine::cameraWithoutAFileIsLogged()
+{
+    QTest::ignoreMessage(QtWarningMsg, "The option --camera needs a file");
+    QCOMPARE(commandline::cameraFile({"morvane", "--camera"}), QString());
 }
 
 void TestCommandLine::noArgument()
