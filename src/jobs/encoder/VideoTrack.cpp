@@ -7,6 +7,7 @@ extern "C" {
 }
 
 #include <QtDebug>
+#include <thread>
 
 namespace {
 
@@ -118,7 +119,8 @@ void VideoTrack::applyCodecOptions(const Settings &settings)
             setOption(*m_context, "lossless", 1);
             // The two encoders of colour and of transparency must place their frames alike.
             setOption(*m_context, "auto-alt-ref", 0);
-            m_context->thread_count = 1;
+            // More than these wait for each other more than they help.
+            m_context->thread_count = std::clamp(int(std::thread::hardware_concurrency()), 1, 4);
             break;
         case AV_CODEC_ID_WEBP:
             m_context->profile = 0;
