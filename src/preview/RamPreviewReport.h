@@ -1,7 +1,7 @@
 #pragma once
 
 #include "preview/RamPreviewState.h"
-#include "timeline/model/ObservedProperty.h"
+#include "shared/PropertyMacros.h"
 
 /// Second layer of RamPreview: what it tells of the picture that it shows and of its cache. Percentages go
 /// from 0 to 100.
@@ -22,15 +22,15 @@ class RamPreviewReport : public RamPreviewState
     Q_PROPERTY(qreal readyPercent READ readyPercent NOTIFY readyChanged STORED false)
 
     /// Size of the picture over the size of its file.
-    MORVANE_OBSERVED_PROPERTY(qreal, imageScale, ImageScale, 1.0)
+    MORVANE_READ_ONLY_PROPERTY(qreal, imageScale, ImageScale, 1.0)
     /// Height over width of what the crop has left.
-    MORVANE_OBSERVED_PROPERTY(qreal, proportion, Proportion, 1.0)
+    MORVANE_READ_ONLY_PROPERTY(qreal, proportion, Proportion, 1.0)
     /// Share of the picture's width that the crop has left.
-    MORVANE_OBSERVED_PROPERTY(qreal, currentCroppedCoefX, CurrentCroppedCoefX, 1.0)
+    MORVANE_READ_ONLY_PROPERTY(qreal, currentCroppedCoefX, CurrentCroppedCoefX, 1.0)
     /// Share of the cache's budget in use.
-    MORVANE_OBSERVED_PROPERTY(qreal, cacheUsedPercent, CacheUsedPercent, 0.0)
+    MORVANE_READ_ONLY_PROPERTY(qreal, cacheUsedPercent, CacheUsedPercent, 0.0)
     /// What the disk copies take of the space that they and the free space of their disk make together.
-    MORVANE_OBSERVED_PROPERTY(qreal, diskCacheUsedPercent, DiskCacheUsedPercent, 0.0)
+    MORVANE_READ_ONLY_PROPERTY(qreal, diskCacheUsedPercent, DiskCacheUsedPercent, 0.0)
 
 public:
     using RamPreviewState::RamPreviewState;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "timeline/model/ObservedProperty.h"
+#include "shared/PropertyMacros.h"
 
 #include "shared/Zum.h"
 
@@ -27,12 +27,12 @@ class Progress : public QQuickItem
     /// `current` may not leave the range.
     MORVANE_PROPERTY(bool, lockInRange, LockInRange, false)
     /// The parts of `milliseconds`.
-    MORVANE_OBSERVED_PROPERTY(int, mSeconds, MSeconds, 0)
-    MORVANE_OBSERVED_PROPERTY(int, seconds, Seconds, 0)
-    MORVANE_OBSERVED_PROPERTY(int, minutes, Minutes, 0)
-    MORVANE_OBSERVED_PROPERTY(int, hours, Hours, 0)
+    MORVANE_READ_ONLY_PROPERTY(int, mSeconds, MSeconds, 0)
+    MORVANE_READ_ONLY_PROPERTY(int, seconds, Seconds, 0)
+    MORVANE_READ_ONLY_PROPERTY(int, minutes, Minutes, 0)
+    MORVANE_READ_ONLY_PROPERTY(int, hours, Hours, 0)
     /// Where the last write of `current` ended up, a Zum::RangePositions value.
-    MORVANE_OBSERVED_PROPERTY(int, currentPositionName, CurrentPositionName, Zum::UndefinedPosition)
+    MORVANE_READ_ONLY_PROPERTY(int, currentPositionName, CurrentPositionName, Zum::UndefinedPosition)
 
 public:
     enum HandlerTypes {

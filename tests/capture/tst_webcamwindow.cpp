@@ -1,6 +1,7 @@
 #include "capture/LiveViewItem.h"
 #include "capture/OsSpecific.h"
 #include "capture/webcam/WebCamEvent.h"
+#include "support/DeviceContract.h"
 #include "WebcamBench.h"
 
 #include <algorithm>
@@ -10,6 +11,7 @@
 #include <QQmlEngine>
 #include <QRegularExpression>
 #include <thread>
+#include <vector>
 
 class TestWebCamWindow : public QObject
 {
@@ -629,32 +631,9 @@ void TestWebCamWindow::theSceneGivesItsEnvironmentByName()
 void TestWebCamWindow::theSceneKnowsTheseNames()
 {
     const QMetaObject &meta = WebCamWindow::staticMetaObject;
-    for (const char *name : {"connected",
-                             "threadIsRunning",
-                             "busy",
-                             "fps",
-                             "rotate",
-                             "paused",
-                             "renderSmooth",
-                             "histogramOn",
-                             "grayscale",
-                             "histogramDataY",
-                             "histogramDataR",
-                             "histogramDataG",
-                             "histogramDataB",
-                             "coordSystemWidth",
-                             "coordSystemHeight",
-                             "progressAction",
-                             "progressTotal",
-                             "progressCurrent",
-                             "focusFrameOn",
-                             "firmWareVer",
-                             "global",
-                             "powerFactor",
-                             "zoomFactor",
-                             "eyedropperOn",
-                             "availWidth",
-                             "availHeight"}) {
+    std::vector<const char *> names(deviceProperties.cbegin(), deviceProperties.cend());
+    names.insert(names.end(), {"availWidth", "availHeight"});
+    for (const char *name : names) {
         const int index = meta.indexOfProperty(name);
         QVERIFY2(index >= 0, name);
         QCOMPARE(meta.property(index).notifySignal().name(), QByteArray(name) + "Changed");

@@ -19,7 +19,7 @@ class CurrentFrame : public ActionState
     Q_PROPERTY(bool hasReference READ hasReference NOTIFY hasReferenceChanged)
 
     /// Row of the last edit, where the timeline scrolls to.
-    MORVANE_OBSERVED_PROPERTY(int, lastAccessedIndex, LastAccessedIndex, -1)
+    MORVANE_READ_ONLY_PROPERTY(int, lastAccessedIndex, LastAccessedIndex, -1)
 
 public:
     explicit CurrentFrame(QObject *parent = nullptr);

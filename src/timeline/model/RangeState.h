@@ -1,7 +1,7 @@
 #pragma once
 
+#include "shared/PropertyMacros.h"
 #include "timeline/model/FrameRows.h"
-#include "timeline/model/ObservedProperty.h"
 
 #include "shared/Zum.h"
 
@@ -22,8 +22,8 @@ class RangeState : public FrameRows
         int timelineRangeEnd READ timelineRangeEnd WRITE setTimelineRangeEnd NOTIFY timelineRangeEndChanged)
 
     /// 0 when the range starts and ends at the same row, otherwise its number of rows.
-    MORVANE_OBSERVED_PROPERTY(int, timelineRangeSize, TimelineRangeSize, 0)
-    MORVANE_OBSERVED_PROPERTY(int, actualFps, ActualFps, 0)
+    MORVANE_READ_ONLY_PROPERTY(int, timelineRangeSize, TimelineRangeSize, 0)
+    MORVANE_READ_ONLY_PROPERTY(int, actualFps, ActualFps, 0)
     MORVANE_PROPERTY(bool, playingCaptured, PlayingCaptured, true)
     MORVANE_PROJECT_PROPERTY(bool, pendulum, Pendulum, false)
     MORVANE_PROJECT_PROPERTY(bool, loop, Loop, true)

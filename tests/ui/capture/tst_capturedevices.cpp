@@ -1,8 +1,10 @@
 #include "CaptureWindow.h"
+#include "support/DeviceContract.h"
 #include "support/FakeCapture.h"
 
 #include <QSignalSpy>
 #include <QTest>
+#include <vector>
 
 /// Choosing, connecting and losing devices.
 class TestCaptureDevices : public QObject
@@ -370,46 +372,12 @@ void TestCaptureDevices::dummyStandsInWithoutADevice()
 {
     CaptureWindow shell;
     // Whatever common panels bind to is there.
-    for (const char *name : {"connected",
-                             "threadIsRunning",
-                             "busy",
-                             "fps",
-                             "rotate",
-                             "paused",
-                             "renderSmooth",
-                             "histogramOn",
-                             "grayscale",
-                             "histogramDataY",
-                             "histogramDataR",
-                             "histogramDataG",
-                             "histogramDataB",
-                             "coordSystemWidth",
-                             "coordSystemHeight",
-                             "progressAction",
-                             "progressTotal",
-                             "progressCurrent",
-                             "focusFrameOn",
-                             "firmWareVer",
-                             "global",
-                             "powerFactor",
-                             "zoomFactor",
-                             "eyedropperOn",
-                             "useIcc",
-                             "iccPath",
-                             "photoSaveTIFF",
-                             "photoSaveRAW",
-                             "dofEnabled",
-                             "imageQualityCurrent",
-                             "imageSizeCurrent",
-                             "listOfCameras",
-                             "lensFocusInfo",
-                             "wbTempValueEnabled",
-                             "wbTempValue",
-                             "zoomRectPosX",
-                             "zoomRectPosY",
-                             "manualFocusEnabled",
-                             "floatingPanelVisible",
-                             "batteryLevel"}) {
+    std::vector<const char *> names(deviceProperties.cbegin(), deviceProperties.cend());
+    names.insert(names.end(), {"useIcc", "iccPath", "photoSaveTIFF", "photoSaveRAW", "dofEnabled",
+                               "imageQualityCurrent", "imageSizeCurrent", "listOfCameras", "lensFocusInfo",
+                               "wbTempValueEnabled", "wbTempValue", "zoomRectPosX", "zoomRectPosY",
+                               "manualFocusEnabled", "floatingPanelVisible", "batteryLevel"});
+    for (const char *name : names) {
         QVERIFY2(shell.item("deviceDummy")->metaObject()->indexOfProperty(name) >= 0, name);
         auto *device = shell.window().capturingDeviceObject().value<QObject *>();
         QVERIFY2(device->metaObject()->indexOfProperty(name) >= 0, name);

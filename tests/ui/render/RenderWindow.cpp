@@ -184,3 +184,34 @@ void RenderWindow::keepPicture(const QString &name) const
     if (!folder.isEmpty())
         m_shell->window().grabWindow().save(folder + u'/' + name + u".png"_s);
 }
+
+void RenderWindow::visitShown(QQuickItem *item, const std::function<void(QQuickItem *)> &visit)
+{
+    findShown(item, [&](QQuickItem *shown) {
+        visit(shown);
+        return false;
+    });
+}
+
+void RenderWindow::reset()
+{
+    WebcamGlobal &g = global();
+    g.setMainTabsState(u"timingUIisOn"_s);
+    g.setRenderFormatNameStr(u"avi"_s);
+    g.setRenderQmax(2);
+    g.setVideoExportPolicy(Zum::ExportPolicyCropped);
+    g.setCropAreaW(1280);
+    g.setCropAreaH(720);
+    g.setExportSizeW(1920);
+    g.setExportSizeH(1080);
+    g.setRenderTimecode(false);
+    g.setPostProcessing(Zum::NoProcessing);
+    g.setPostProcessSettings({});
+    g.setVideoEffectsString({});
+    g.setRenderFileName(u"videotest"_s);
+    g.setExportPicFormat(Zum::ExportPNG);
+    frames().setTimelineRangeStart(0);
+    frames().setTimelineRangeEnd(11);
+    frames().setCurrentIndex(0);
+    QVERIFY(shell().settle());
+}

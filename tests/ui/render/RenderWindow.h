@@ -2,6 +2,7 @@
 
 #include "support/ShellWindow.h"
 
+#include <functional>
 #include <memory>
 #include <QTemporaryDir>
 
@@ -43,6 +44,8 @@ public:
         return m_shell->controllers().settings();
     }
 
+    /// Back to what a new project has, with the range over the first twelve frames.
+    void reset();
     /// Ends the program and starts it anew with its settings and another film.
     void restart();
     /// Gives every frame that has no picture on the disk one of that size, in a colour that its row gives.
@@ -56,6 +59,13 @@ public:
     QQuickItem *entry(const QString &text) const;
     /// The text that a part shows; empty when it does not show.
     QString textOf(const QString &objectName) const;
+    /// The panel of the tab.
+    QQuickItem *pane() const
+    {
+        return m_shell->item(QStringLiteral("controlsPanesBox"));
+    }
+    /// Goes through the item and all below that show.
+    static void visitShown(QQuickItem *item, const std::function<void(QQuickItem *)> &visit);
     /// The button of a row of choices.
     QQuickItem *choice(const QString &rowName, int index) const;
     /// Clicks what is given, scrolling to it first.

@@ -58,25 +58,11 @@ private slots:
 private:
     QQuickItem *pane() const
     {
-        return w->shell().item(u"controlsPanesBox"_s);
+        return w->pane();
     }
 
     std::unique_ptr<RenderWindow> w;
 };
-
-namespace {
-
-void visitShown(QQuickItem *item, const std::function<void(QQuickItem *)> &visit)
-{
-    if (!item->isVisible())
-        return;
-    visit(item);
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children)
-        visitShown(child, visit);
-}
-
-} // namespace
 
 void TestRenderPane::initTestCase()
 {
@@ -88,28 +74,10 @@ void TestRenderPane::cleanupTestCase()
     w.reset();
 }
 
-/// One window serves all: back to what a new project has.
+/// One window serves all.
 void TestRenderPane::init()
 {
-    WebcamGlobal &g = w->global();
-    g.setMainTabsState(u"timingUIisOn"_s);
-    g.setRenderFormatNameStr(u"avi"_s);
-    g.setRenderQmax(2);
-    g.setVideoExportPolicy(Zum::ExportPolicyCropped);
-    g.setCropAreaW(1280);
-    g.setCropAreaH(720);
-    g.setExportSizeW(1920);
-    g.setExportSizeH(1080);
-    g.setRenderTimecode(false);
-    g.setPostProcessing(Zum::NoProcessing);
-    g.setPostProcessSettings({});
-    g.setVideoEffectsString({});
-    g.setRenderFileName(u"videotest"_s);
-    g.setExportPicFormat(Zum::ExportPNG);
-    w->frames().setTimelineRangeStart(0);
-    w->frames().setTimelineRangeEnd(11);
-    w->frames().setCurrentIndex(0);
-    QVERIFY(w->shell().settle());
+    w->reset();
 }
 
 void TestRenderPane::cleanup()
@@ -133,14 +101,14 @@ void TestRenderPane::standsOnTheTimingTabOnly()
 void TestRenderPane::boxesInTheirOrder()
 {
     QStringList titles;
-    visitShown(pane(), [&](QQuickItem *item) {
+    RenderWindow::visitShown(pane(), [&](QQuickItem *item) {
         if (item->metaObject()->indexOfProperty("contentSpacing") >= 0)
             titles.append(item->property("title").toString());
     });
     titles.removeAll({});
     QCOMPARE(titles.first(3), (QStringList{"Filters", "Video", "Frame Info"}));
     QStringList headings;
-    visitShown(pane(), [&](QQuickItem *item) {
+    RenderWindow::visitShown(pane(), [&](QQuickItem *item) {
         if (item->inherits("QQuickText"))
             headings.append(item->property("text").toString());
     });

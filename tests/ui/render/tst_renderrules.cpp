@@ -43,27 +43,13 @@ private slots:
 private:
     QQuickItem *pane() const
     {
-        return w->shell().item(u"controlsPanesBox"_s);
+        return w->pane();
     }
     QObject *strings() const;
     QList<QQuickItem *> tabStops() const;
 
     std::unique_ptr<RenderWindow> w;
 };
-
-namespace {
-
-void visitShown(QQuickItem *item, const std::function<void(QQuickItem *)> &visit)
-{
-    if (!item->isVisible())
-        return;
-    visit(item);
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children)
-        visitShown(child, visit);
-}
-
-} // namespace
 
 void TestRenderRules::initTestCase()
 {
@@ -75,28 +61,10 @@ void TestRenderRules::cleanupTestCase()
     w.reset();
 }
 
-/// One window serves all: back to what a new project has.
+/// One window serves all.
 void TestRenderRules::init()
 {
-    WebcamGlobal &g = w->global();
-    g.setMainTabsState(u"timingUIisOn"_s);
-    g.setRenderFormatNameStr(u"avi"_s);
-    g.setRenderQmax(2);
-    g.setVideoExportPolicy(Zum::ExportPolicyCropped);
-    g.setCropAreaW(1280);
-    g.setCropAreaH(720);
-    g.setExportSizeW(1920);
-    g.setExportSizeH(1080);
-    g.setRenderTimecode(false);
-    g.setPostProcessing(Zum::NoProcessing);
-    g.setPostProcessSettings({});
-    g.setVideoEffectsString({});
-    g.setRenderFileName(u"videotest"_s);
-    g.setExportPicFormat(Zum::ExportPNG);
-    w->frames().setTimelineRangeStart(0);
-    w->frames().setTimelineRangeEnd(11);
-    w->frames().setCurrentIndex(0);
-    QVERIFY(w->shell().settle());
+    w->reset();
 }
 
 void TestRenderRules::cleanup()
@@ -287,7 +255,7 @@ void TestRenderRules::frameInfoTellsTheState()
 QList<QQuickItem *> TestRenderRules::tabStops() const
 {
     QList<QQuickItem *> stops;
-    visitShown(pane(), [&](QQuickItem *item) {
+    RenderWindow::visitShown(pane(), [&](QQuickItem *item) {
         if (item->activeFocusOnTab() && item->isEnabled())
             stops.append(item);
     });
