@@ -38,6 +38,27 @@ function(morvane_library name)
     target_link_libraries(morvane_${name} PUBLIC ${ARG_LINKS} PRIVATE morvane_options)
 endfunction()
 
+# Where modules lie, below the prefix as below the folder of the build, and the name of their one function.
+set(MORVANE_MODULE_FOLDER ${CMAKE_INSTALL_LIBDIR}/morvane)
+string(MAKE_C_IDENTIFIER "morvane_${PROJECT_VERSION}_${MORVANE_BUILD_FIELD}" MORVANE_MODULE_ENTRY)
+
+# morvane_module(encoder SOURCES ... LINKS ...): a part that the program loads as the ProgramModule of that name. The
+# sources define the function MORVANE_MODULE_ENTRY; nothing else can be seen from outside. What is linked into it is
+# its own copy, so it must not hold state that the program shares.
+function(morvane_module name)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LINKS")
+    add_library(morvane_${name}_module MODULE ${ARG_SOURCES})
+    set_target_properties(morvane_${name}_module PROPERTIES
+        PREFIX "" OUTPUT_NAME ${name} LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${MORVANE_MODULE_FOLDER}
+        CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+    target_include_directories(morvane_${name}_module PRIVATE ${PROJECT_SOURCE_DIR}/src)
+    target_compile_definitions(morvane_${name}_module PRIVATE MORVANE_MODULE_ENTRY=${MORVANE_MODULE_ENTRY})
+    target_link_libraries(morvane_${name}_module PRIVATE ${ARG_LINKS} morvane_options)
+    # A symbol that no library has shows when the module is loaded, not when it is called.
+    target_link_options(morvane_${name}_module PRIVATE -Wl,--exclude-libs,ALL -Wl,--as-needed -Wl,-z,now)
+    install(TARGETS morvane_${name}_module LIBRARY DESTINATION ${MORVANE_MODULE_FOLDER})
+endfunction()
+
 # morvane_test(tst_x SOURCES ... LINKS ... [UI] [TIMEOUT seconds]): one QtTest executable run by ctest.
 # Without UI it runs on the offscreen platform; with UI in a window of its own virtual screen.
 function(morvane_test name)

@@ -88,6 +88,10 @@
         <translation>Сцена: %1</translation>
     </message>
     <message>
+        <source>The part of the program that makes movies is missing or damaged. Install the program again. %1</source>
+        <translation>Часть программы, которая создаёт фильмы, отсутствует или повреждена. Установите программу заново. %1</translation>
+    </message>
+    <message>
         <source>This job is not available</source>
         <translation>Это действие недоступно</translation>
     </message>

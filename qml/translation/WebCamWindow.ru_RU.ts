@@ -34,5 +34,9 @@
         <source>The camera is gone. Everything shot so far is in the project. Connect again to go on where it stopped</source>
         <translation>Камера пропала. Всё снятое осталось в проекте. Подключите её снова, чтобы продолжить с того же места</translation>
     </message>
+    <message>
+        <source>The part of the program that reads cameras and movies is missing or damaged. Install the program again. %1</source>
+        <translation>Часть программы, которая читает камеры и фильмы, отсутствует или повреждена. Установите программу заново. %1</translation>
+    </message>
 </context>
 </TS>

@@ -8,10 +8,10 @@
 
 /// Turns pictures into one file. Lives on the thread of one job, for one file: createFile, encodeImage for
 /// each picture, closeFile, in this order.
+///
+/// An encoder may come from a module. So there is no Q_OBJECT: it would be another one on either side.
 class EncoderBase : public QObject
 {
-    Q_OBJECT
-
 public:
     using QObject::QObject;
 

@@ -2,6 +2,7 @@
 
 #include "jobs/EncoderBase.h"
 #include "jobs/render/FramePicture.h"
+#include "shared/ProgramModule.h"
 
 #include <functional>
 #include <memory>
@@ -17,6 +18,7 @@ struct RobotTools
     /// Pictures that may be in the making at once.
     int lookAhead = 1;
 
-    /// What the program itself works with: as many pictures at once as there are processors.
-    static RobotTools standard();
+    /// What the program itself works with: as many pictures at once as there are processors, and the encoder
+    /// from its module, which the first job loads.
+    static RobotTools standard(const QString &moduleFolder = ProgramModule::standardFolder());
 };

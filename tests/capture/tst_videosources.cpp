@@ -61,6 +61,7 @@ private slots:
     void movieRunsAtItsOwnRateAndStartsAnew();
     void movieThatIsNoneDoesNotOpen();
     void anIndexWithoutCameraDoesNotOpen();
+    void withoutTheirModuleTheySayWhatIsWrong();
     void theSuffixTellsMoviesFromImages();
 
 private:
@@ -334,6 +335,27 @@ void TestVideoSources::anIndexWithoutCameraDoesNotOpen()
     QVERIFY(pictureOf(source).empty());
     QVERIFY(!source.set(cv::CAP_PROP_ZOOM, 2));
     source.close();
+}
+
+void TestVideoSources::withoutTheirModuleTheySayWhatIsWrong()
+{
+    const QTemporaryDir empty;
+    OpenCvSource camera(0, empty.path());
+    QCOMPARE(camera.loadError(), QString());
+    QVERIFY(!camera.open() && !camera.isOpened());
+    QVERIFY2(camera.loadError().contains(empty.path()), qPrintable(camera.loadError()));
+    QVERIFY(pictureOf(camera).empty());
+    QVERIFY(!camera.set(cv::CAP_PROP_ZOOM, 2) && camera.get(cv::CAP_PROP_ZOOM) < 0);
+    camera.close();
+
+    VideoFileSource movie(folder.filePath("none.avi"), clock, empty.path());
+    QVERIFY(!movie.open() && !movie.isOpened() && pictureOf(movie).empty());
+    QVERIFY2(movie.loadError().contains(empty.path()), qPrintable(movie.loadError()));
+    movie.close();
+
+    VideoFileSource missing(folder.filePath("none.avi"), clock);
+    QVERIFY(!missing.open());
+    QCOMPARE(missing.loadError(), QString());
 }
 
 void TestVideoSources::theSuffixTellsMoviesFromImages()

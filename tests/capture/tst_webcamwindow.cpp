@@ -1,5 +1,6 @@
 #include "capture/LiveViewItem.h"
 #include "capture/OsSpecific.h"
+#include "capture/source/OpenCvSource.h"
 #include "capture/webcam/WebCamEvent.h"
 #include "support/DeviceContract.h"
 #include "WebcamBench.h"
@@ -25,6 +26,7 @@ private slots:
     void connectingTellsSoAndIsBusyUntilTheFirstPicture();
     void aSecondConnectionIsRefused();
     void anIndexWithoutDeviceSaysSoAtOnce();
+    void aCameraWithoutItsModuleSaysWhatIsWrong();
     void aDeviceThatDeliversNothingIsGivenUpAfterElevenAndAHalfSeconds();
     void aDeviceThatDeliversLateConnects();
     void fiveFailedPassesEndTheConnection();
@@ -130,6 +132,30 @@ void TestWebCamWindow::anIndexWithoutDeviceSaysSoAtOnce()
     QCOMPARE(bench->machine.clock->waitedMs(), 0);
     QCOMPARE(bench->machine.camera->closed.load(), 1);
     QVERIFY(!bench->window->busy() && !bench->global.busy());
+}
+
+void TestWebCamWindow::aCameraWithoutItsModuleSaysWhatIsWrong()
+{
+    CaptureEnvironment::Parts parts = bench->machine.parts();
+    parts.openHardware = [this](int index) {
+        return std::make_unique<OpenCvSource>(index, bench->folder.path());
+    };
+    CaptureEnvironment environment(std::move(parts), bench->settings);
+    environment.setLivePicture(bench->picture);
+    bench->window->setEnvironment(&environment);
+    bench->window->connects();
+    QVERIFY(bench->waitForEnd());
+    QVERIFY(!bench->told(Zum::Error, WebcamBench::notPresent()));
+    const auto &[type, text] = bench->messages.last();
+    QCOMPARE(type, int(Zum::Error));
+    QVERIFY2(text.startsWith("The part of the program that reads cameras and movies is missing or damaged. "
+                             "Install the program again. "),
+             qPrintable(text));
+    QVERIFY2(text.contains(bench->path("videoinput")), qPrintable(text));
+    QVERIFY(!bench->window->busy() && !bench->global.busy());
+    QVERIFY(bench->connectCamera(CaptureEnvironment::demoIndex));
+    QVERIFY(bench->disconnectCamera());
+    bench->window->setEnvironment(&bench->environment);
 }
 
 void TestWebCamWindow::aDeviceThatDeliversNothingIsGivenUpAfterElevenAndAHalfSeconds()

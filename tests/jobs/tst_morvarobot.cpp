@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 #ifdef Q_OS_UNIX
@@ -59,6 +60,7 @@ private slots:
     void marginsAreTransparentInFormatsWithAlpha();
     void effectIsAdaptedToItsFilter();
     void effectThatIsMissingLeavesNoFile();
+    void encoderThatCannotBeLoadedIsToldAsOneThatFails();
     void fullDiskIsToldAndTheEarlierMovieStays();
     void jobsOfOtherKindsSayThatTheyAreNotThere();
 
@@ -554,6 +556,22 @@ void TestMorvaRobot::effectThatIsMissingLeavesNoFile()
              (QStringList{"Error initializing", "Encoder error: Cannot apply post-process effects"}));
     QCOMPARE(run.result, QString());
     QCOMPARE(film.movies(), QStringList());
+}
+
+void TestMorvaRobot::encoderThatCannotBeLoadedIsToldAsOneThatFails()
+{
+    const SmallFilm film({0, 1});
+    const QTemporaryDir empty;
+    const Run run = render(film.input, RobotTools::standard(empty.path()));
+    QCOMPARE(run.errors.size(), 2);
+    QCOMPARE(run.errors.first(), "Error initializing");
+    QVERIFY2(run.errors.last().startsWith("Encoder error: The part of the program that makes movies is "
+                                          "missing or damaged. Install the program again. "),
+             qPrintable(run.errors.last()));
+    QVERIFY2(run.errors.last().contains(empty.path()), qPrintable(run.errors.last()));
+    QVERIFY(!run.finished && run.result.isEmpty());
+    QCOMPARE(run.done, 1);
+    QCOMPARE(render(film.input, RobotTools::standard()).errors, QStringList());
 }
 
 void TestMorvaRobot::fullDiskIsToldAndTheEarlierMovieStays()

@@ -1,27 +1,29 @@
 #pragma once
 
+#include "capture/source/VideoInput.h"
 #include "capture/source/VideoSource.h"
+#include "shared/ProgramModule.h"
 
-#include <opencv2/videoio.hpp>
-
-/// A camera or capture adapter by OpenCV's index. The library's own log is silenced: what the user has to
-/// know is told by the device.
+/// A camera or capture adapter by OpenCV's index.
 class OpenCvSource : public VideoSource
 {
 public:
-    explicit OpenCvSource(int index);
+    explicit OpenCvSource(int index, QString moduleFolder = ProgramModule::standardFolder());
 
     bool open() override;
+    QString loadError() const override
+    {
+        return m_loadError;
+    }
     bool isOpened() const override;
     bool read(cv::Mat &picture) override;
     bool set(int property, double value) override;
     double get(int property) override;
     void close() override;
 
-    /// Keeps the library from writing into the terminal. Process-wide.
-    static void silenceLog();
-
 private:
-    cv::VideoCapture m_capture;
+    QString m_moduleFolder;
+    QString m_loadError;
+    std::unique_ptr<VideoInput> m_input;
     int m_index;
 };

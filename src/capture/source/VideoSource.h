@@ -1,6 +1,7 @@
 #pragma once
 
 #include <opencv2/core/mat.hpp>
+#include <QString>
 
 /// Where pictures come from: a camera, a file, or the built-in stage. Made on any thread, and then used from
 /// the camera's thread alone, where every call may block for as long as the hardware takes. Property numbers
@@ -14,6 +15,11 @@ public:
     VideoSource &operator=(const VideoSource &) = delete;
 
     virtual bool open() = 0;
+    /// After an open() that failed for want of a part of the program, not of the device: what is wrong.
+    virtual QString loadError() const
+    {
+        return {};
+    }
     virtual bool isOpened() const = 0;
     /// Blocks until there is a picture, and gives it in the order blue, green, red. False, or an empty one,
     /// when nothing was delivered. The picture is the caller's own.

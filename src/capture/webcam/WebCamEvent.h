@@ -10,6 +10,7 @@ public:
     enum Number {
         // To the device
         LiveViewFailed = 1302,
+        /// The value says what is wrong when it is the program and not the camera.
         NoCamera = 1303,
         Rate = 1305,
         Warning = 1311,

@@ -107,7 +107,7 @@ void WebCamLiveViewThread::run()
             runLoop();
             break;
         case Opened::No:
-            postToWindow(WebCamEvent::NoCamera);
+            postToWindow(WebCamEvent::NoCamera, m_source->loadError());
             break;
         case Opened::GivenUp:
             break;

@@ -365,10 +365,14 @@ void WebCamWindow::takeSizes()
     takeBusy(false);
 }
 
-void WebCamWindow::noCamera()
+void WebCamWindow::noCamera(const QString &loadError)
 {
     emit message(Zum::Error,
-                 tr("Camera not present, not connected or not supported. Check hardware connection"));
+                 loadError.isEmpty()
+                     ? tr("Camera not present, not connected or not supported. Check hardware connection")
+                     : tr("The part of the program that reads cameras and movies is missing or damaged. "
+                          "Install the program again. %1")
+                           .arg(loadError));
     takeFirmWare();
     if (connected()) {
         emit message(Zum::Info, tr("The camera is gone. Everything shot so far is in the project. "
@@ -403,7 +407,7 @@ void WebCamWindow::customEvent(QEvent *event)
             noCamera();
             break;
         case WebCamEvent::NoCamera:
-            noCamera();
+            noCamera(said->value().toString());
             break;
         case WebCamEvent::Rate:
             takeRate(said->value());

@@ -148,7 +148,7 @@ private:
     void takeFirmWare();
     void takeRate(const QVariant &rate);
     void takeSizes();
-    void noCamera();
+    void noCamera(const QString &loadError = {});
     void frameWasSaved(const QVariantMap &paths);
     void takeReport(const WebCamEvent &event);
     void postToDisplay(int number, int priority = Qt::NormalEventPriority);
