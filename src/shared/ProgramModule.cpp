@@ -23,8 +23,11 @@ ProgramModule::ProgramModule(const QString &name, const QString &folder)
     QLibrary library(QDir(folder).filePath(name));
     library.setLoadHints(QLibrary::PreventUnloadHint);
     m_entry = library.resolve(entryName);
-    if (!m_entry)
-        m_error = library.errorString();
+    if (m_entry)
+        return;
+    m_error = library.isLoaded()
+                  ? QStringLiteral("%1: no function %2").arg(library.fileName(), QLatin1String(entryName))
+                  : library.errorString();
 }
 
 QString ProgramModule::standardFolder()
