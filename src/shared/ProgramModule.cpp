@@ -1,5 +1,6 @@
 #include "shared/ProgramModule.h"
 
+#include <mutex>
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibrary>
@@ -20,6 +21,9 @@ constexpr int deepest = 3;
 
 ProgramModule::ProgramModule(const QString &name, const QString &folder)
 {
+    // Whoever comes second has to find all that the module sets up when it is loaded.
+    static std::mutex loading;
+    const std::lock_guard lock(loading);
     QLibrary library(QDir(folder).filePath(name));
     library.setLoadHints(QLibrary::PreventUnloadHint);
     m_entry = library.resolve(entryName);
