@@ -16,9 +16,12 @@ void handle(QtMsgType type, const QMessageLogContext &, const QString &text)
         heldBack.append(text);
         return;
     }
-    std::fputs("Morvane Capture has found no screen for its window. Start it in a desktop session, or set DISPLAY to\n"
-               "one. Without a screen, \"morvane --render\" makes the movie of a project; \"morvane --help\" tells how.\n",
-               stderr);
+    std::fputs(
+        "Morvane Capture has found no screen for its window. Start it in a desktop session, or set DISPLAY "
+        "to\n"
+        "one. Without a screen, \"morvane --render\" makes the movie of a project; \"morvane --help\" tells "
+        "how.\n",
+        stderr);
     for (const QString &reason : std::as_const(heldBack))
         std::fprintf(stderr, "  %s\n", qPrintable(reason));
     std::fflush(stderr);
