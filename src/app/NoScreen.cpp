@@ -17,10 +17,9 @@ void handle(QtMsgType type, const QMessageLogContext &, const QString &text)
         return;
     }
     std::fputs(
-        "Morvane Capture has found no screen for its window. Start it in a desktop session, or set DISPLAY "
-        "to\n"
-        "one. Without a screen, \"morvane --render\" makes the movie of a project; \"morvane --help\" tells "
-        "how.\n",
+        "Morvane Capture has found no screen for its window. Start it in a desktop session, or\n"
+        "set DISPLAY to one. Without a screen, \"morvane --render\" makes the movie of a project;\n"
+        "\"morvane --help\" tells how.\n",
         stderr);
     for (const QString &reason : std::as_const(heldBack))
         std::fprintf(stderr, "  %s\n", qPrintable(reason));
