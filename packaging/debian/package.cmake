@@ -32,7 +32,7 @@ set(loaded
     fonts-dejavu-core hicolor-icon-theme)
 list(JOIN loaded ", " CPACK_DEBIAN_PACKAGE_DEPENDS)
 # Drawing without a graphics card; opening folders and links; a double click on a project.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libgl1-mesa-dri, xdg-utils, desktop-file-utils")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libgl1-mesa-dri, xdg-utils, desktop-file-utils, shared-mime-info")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 set(documents ${CMAKE_INSTALL_DATADIR}/doc/${CPACK_PACKAGE_NAME})
