@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 #include "app/FirstFrame.h"
 #include "app/MainWindow.h"
+#include "app/NoScreen.h"
 #include "app/RenderCommand.h"
 #include "app/SplashScreen.h"
 #include "app/Translations.h"
@@ -11,6 +12,7 @@
 #include "shared/ScreenDensity.h"
 
 #include <cstdio>
+#include <memory>
 #include <QApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -44,7 +46,9 @@ int main(int argc, char *argv[])
     if (rendercommand::isAsked(given))
         return render(argc, argv, given);
 
+    auto noScreen = std::make_unique<NoScreen>();
     QApplication app(argc, argv);
+    noScreen.reset();
     QApplication::setQuitOnLastWindowClosed(true);
     QApplication::setApplicationName(morvane::applicationName);
     QApplication::setDesktopFileName(QStringLiteral("morvane-capture"));

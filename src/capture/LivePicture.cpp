@@ -9,13 +9,11 @@ namespace {
 // is one that the thread sanitizer cannot follow.
 std::unique_lock<std::mutex> tryLock(std::mutex &mutex)
 {
-    std::unique_lock lock(mutex, std::try_to_lock);
+    std::unique_lock lock(mutex, std::defer_lock);
     const auto limit =
         std::chrono::steady_clock::now() + std::chrono::milliseconds(LivePicture::lockTimeoutMs);
-    while (!lock.owns_lock() && std::chrono::steady_clock::now() < limit) {
+    while (!lock.try_lock() && std::chrono::steady_clock::now() < limit)
         std::this_thread::sleep_for(std::chrono::microseconds(500));
-        lock.try_lock();
-    }
     return lock;
 }
 
