@@ -7,7 +7,7 @@ Column {
 
     // The last two of the list cannot be chosen.
     readonly property var offered: WebcamGlobal.blendModes.slice(0, 12)
-    readonly property int columns: Math.max(1, Math.floor(width / DefFontSizeNormal_x11))
+    readonly property int columns: Math.max(1, Math.floor(width / (14 * DefFontSizeNormal)))
 
     width: parent.width
     spacing: Theme.spacing

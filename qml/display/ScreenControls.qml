@@ -86,6 +86,7 @@ Rectangle {
             ToolDrop {
                 visible: screenControls.capture
                 icon: WebcamGlobal.blendModes[WebcamGlobal.blend].icon
+                panelWidth: 30 * DefFontSizeNormal
                 title: qsTr("Blend: %1").arg(WebcamGlobal.getBlendName(WebcamGlobal.blend))
                 toolTip: qsTr("How the layers blend") + ": " + WebcamGlobal.getBlendName(WebcamGlobal.blend)
                 toggled: WebcamGlobal.blend !== Zum.NoBlend || WebcamGlobal.grayscale
