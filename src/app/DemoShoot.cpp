@@ -83,6 +83,8 @@ void DemoShoot::listen()
 // What has told of a change may not be through with it, so nothing is done from inside.
 void DemoShoot::lookSoon()
 {
+    if (!m_leaving)
+        m_quietTicks = 0;
     if (m_lookIsDue)
         return;
     m_lookIsDue = true;
@@ -162,7 +164,6 @@ void DemoShoot::showProgress()
     if (progress.isEmpty() || progress == m_shownProgress)
         return;
     m_shownProgress = progress;
-    m_quietTicks = 0;
     m_out << ' ' << progress << Qt::flush;
 }
 

@@ -36,8 +36,8 @@ public:
         /// Rests for those who watch.
         int betweenSteps = 0;
         int betweenShots = 0;
-        /// A step in which nothing moves for so long has failed.
-        int patience = 300;
+        /// A step in which the program tells of no change for so long has failed.
+        int patience = 600;
     };
 
     /// What there is to show for it so far.
@@ -83,7 +83,7 @@ private:
         void (DemoShoot::*begin)();
         /// May find out that the step has failed.
         bool (DemoShoot::*isOver)();
-        /// How far it is, in a word; as long as it changes, the step is alive.
+        /// How far it is, in a word.
         QString (DemoShoot::*progress)() const;
     };
     static const std::array<Step, 7> &steps();

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int longestMs = 90000;
+constexpr int longestMs = 240000;
 
 /// The largest difference of two pictures, looked at coarsely, in steps of a channel.
 int difference(const QImage &a, const QImage &b)
@@ -50,6 +50,7 @@ DemoRun::DemoRun() : environment(QProcessEnvironment::systemEnvironment())
     environment.insert("HOME", m_home.path());
     environment.insert("XDG_CONFIG_HOME", m_home.filePath("config"));
     environment.insert("XDG_CACHE_HOME", m_home.filePath("cache"));
+    environment.insert("XDG_RUNTIME_DIR", m_home.path());
     environment.insert("LC_ALL", "C.UTF-8");
     environment.remove("QT_QPA_PLATFORM");
 }
