@@ -7,6 +7,7 @@
 
 #include <csignal>
 #include <QDir>
+#include <QStandardPaths>
 #include <QTest>
 
 /// The program with "--demo" and without a screen.
@@ -132,7 +133,11 @@ void TestDemoCommand::wholeDemoWithoutAScreen()
         settings.setValue("lastWebcamIndex", 7);
         settings.setValue("framestocapture", 5);
         settings.setValue("renderVideoFormat", "mkv");
-        RecentProjects(settings).add({.name = "mine", .path = "/films/mine.kzfx", .frames = 3});
+        RecentProjects(settings).add({.name = "mine",
+                                      .path = "/films/mine.kzfx",
+                                      .frames = 3,
+                                      .frameSize = {8, 8},
+                                      .thumbnailUrl = {}});
     }
     const auto kept = [&run] {
         const Settings settings(run.settingsPath());

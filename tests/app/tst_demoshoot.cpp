@@ -37,6 +37,8 @@ private:
     {
         explicit Stage(DemoShoot::Pace pace = {}, const QString &path = {});
 
+        static ShellWindow::Options options();
+
         bool waitForTheEnd();
         /// Waits until the line of a step has begun.
         bool waitFor(const QString &said);
@@ -54,9 +56,16 @@ private:
     };
 };
 
+ShellWindow::Options TestDemoShoot::Stage::options()
+{
+    ShellWindow::Options options;
+    options.settings.insert(u"currentCapturingDevice"_s, int(Zum::CapturingDeviceWebcam));
+    options.shown = false;
+    return options;
+}
+
 TestDemoShoot::Stage::Stage(DemoShoot::Pace pace, const QString &givenPath)
-    : shell({.settings = {{u"currentCapturingDevice"_s, int(Zum::CapturingDeviceWebcam)}}, .shown = false}),
-      shoot(shell.window(), pace, std::unique_ptr<Ticker>(ticker), out),
+    : shell(options()), shoot(shell.window(), pace, std::unique_ptr<Ticker>(ticker), out),
       path(givenPath.isEmpty() ? shell.folder() + u"/film.kzfx"_s : givenPath)
 {
     shell.dialogs().pathAnswers.append(path);
@@ -171,13 +180,13 @@ void TestDemoShoot::cameraThatGoesAway()
 
 void TestDemoShoot::cameraThatNeverDelivers()
 {
-    Stage stage({.patience = 5});
+    Stage stage({.patience = 10});
     stage.shell.controllers().capture.demo().setDelivering(false);
     QVERIFY(stage.waitFor("Connect:"));
-    stage.ticker->tick(5);
+    stage.ticker->tick(10);
     QCOMPARE(stage.shoot.failure(), QString());
     stage.ticker->tick();
-    QCOMPARE(stage.shoot.failure(), "Step 2 of 7 (Connect) failed: nothing has moved for 0 s");
+    QCOMPARE(stage.shoot.failure(), "Step 2 of 7 (Connect) failed: nothing has moved for 1 s");
     // Its thread is still looking for a picture, and the window closes all the same.
     stage.ticker->tick(100);
     QVERIFY(stage.waitForTheEnd());
