@@ -230,8 +230,13 @@ void DemoCommand::reportFailure(const QString &failure)
     const ProjectReadResult read = ProjectReader::readFile(projectPath());
     if (read.status == ProjectReadResult::Status::Ok)
         m_err << "  project with " << read.document.frames.size() << " frames: " << projectPath() << Qt::endl;
-    for (const QString &movie : m_shoot->outcome().movies)
-        m_err << "  movie: " << movie << Qt::endl;
+    const QDir videos(ProjectTree::of(projectPath(), {}).videoDirPath);
+    const QStringList names = videos.entryList(QDir::Files);
+    for (const QString &name : names) {
+        const QString movie = videos.absoluteFilePath(name);
+        const bool isWhole = m_shoot->outcome().movies.contains(movie);
+        m_err << (isWhole ? "  movie: " : "  movie, not whole: ") << movie << Qt::endl;
+    }
 }
 
 void DemoCommand::reportSuccess()

@@ -227,9 +227,11 @@ void TestDemoCommand::fullDiskEndsTheRender()
     run.start("bash", {"-c", "trap '' XFSZ; ulimit -f 500; exec \"$@\"", "bash", MORVANE_PROGRAM, "--demo",
                        run.path("films")});
     QCOMPARE(run.end(), int(DemoCommand::Failed));
-    QVERIFY2(run.complaints().contains("(Render ") && run.complaints().startsWith("Step "),
-             qPrintable(run.complaints()));
+    QVERIFY2(run.complaints().contains("Step 6 of 7 (Render AVI) failed: "), qPrintable(run.complaints()));
     QVERIFY(run.complaints().contains("  project with 24 frames: "));
+    const QString videos = run.path("films/morvane-demo/morvane-demo_files/video/");
+    QVERIFY(run.complaints().contains("  movie: " + videos + "demo.webm\n"));
+    QVERIFY(run.complaints().contains("  movie, not whole: " + videos + "demo.avi"));
     openAgain(run.path("films/morvane-demo/morvane-demo.kzfx"));
 }
 
