@@ -75,12 +75,12 @@ TestDemoShoot::Stage::Stage(DemoShoot::Pace pace, const QString &givenPath)
 
 bool TestDemoShoot::Stage::waitForTheEnd()
 {
-    return QTest::qWaitFor([this] { return shell.quits() > 0; }, 100000);
+    return QTest::qWaitFor([this] { return shell.quits() > 0; }, 240000);
 }
 
 bool TestDemoShoot::Stage::waitFor(const QString &words)
 {
-    return QTest::qWaitFor([&] { return said.contains(words) || shell.quits() > 0; }, 100000)
+    return QTest::qWaitFor([&] { return said.contains(words) || shell.quits() > 0; }, 240000)
            && shell.quits() == 0;
 }
 
