@@ -1,5 +1,6 @@
 #include "app/AppControllers.h"
 #include "app/CommandLine.h"
+#include "app/DemoCommand.h"
 #include "app/FirstFrame.h"
 #include "app/MainWindow.h"
 #include "app/NoScreen.h"
@@ -13,10 +14,12 @@
 
 #include <cstdio>
 #include <memory>
+#include <optional>
 #include <QApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QScreen>
+#include <QTextStream>
 #include <QTimer>
 
 namespace {
@@ -33,25 +36,21 @@ int render(int argc, char *argv[], const QStringList &given)
     return rendercommand::execute(given);
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+/// Starts the program in its window, and in `demoFolder`, unless that is empty, its demo.
+int showWindow(int argc, char *argv[], const QString &demoFolder)
 {
-    // Asked for in words alone, the program needs no screen.
-    const QStringList given(argv, argv + argc);
-    if (const QString text = commandline::informationText(given); !text.isEmpty()) {
-        std::puts(qPrintable(text));
-        return 0;
-    }
-    if (rendercommand::isAsked(given))
-        return render(argc, argv, given);
-
     auto noScreen = std::make_unique<NoScreen>();
     QApplication app(argc, argv);
     noScreen.reset();
     QApplication::setQuitOnLastWindowClosed(true);
     QApplication::setApplicationName(morvane::applicationName);
     QApplication::setDesktopFileName(QStringLiteral("morvane-capture"));
+
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    std::optional<DemoCommand> demo;
+    if (!demoFolder.isEmpty() && !demo.emplace(out, err).makeFolder(demoFolder))
+        return DemoCommand::Failed;
 
     auto settings = std::make_unique<Settings>();
     const QString locale = LocaleChoice::startLocale(*settings, LocaleChoice::systemLocaleName());
@@ -62,6 +61,8 @@ int main(int argc, char *argv[])
     const QQmlComponent scene(&engine, QUrl(MainWindow::sceneUrl), QQmlComponent::Asynchronous);
 
     AppEnvironment environment = AppEnvironment::system(engine, std::move(settings));
+    if (demo)
+        demo->adapt(environment);
     SplashScreen splash(ScreenDensity::snapped(environment.logicalDpi));
     splash.show();
     QCoreApplication::processEvents();
@@ -74,12 +75,45 @@ int main(int argc, char *argv[])
 
     int result = 0;
     {
+        const QStringList arguments = QCoreApplication::arguments();
         MainWindow window(std::make_unique<AppControllers>(std::move(environment)),
-                          QCoreApplication::arguments());
+                          demo ? arguments.mid(0, 1) : arguments);
         firstframe::endAfter(window);
+        if (demo)
+            demo->start(window);
         window.show();
         QTimer::singleShot(1500, &splash, &QWidget::close);
         result = QApplication::exec();
     }
-    return result;
+    return demo ? demo->finish() : result;
+}
+
+/// Starts the demo that the command line asks for.
+int showDemo(int argc, char *argv[], const QStringList &given)
+{
+    QString error;
+    const std::optional<QString> folder = DemoCommand::parentFolder(given, error);
+    if (!folder) {
+        std::fprintf(stderr, "%s\n", qPrintable(error));
+        return DemoCommand::WrongUsage;
+    }
+    DemoCommand::choosePlatform();
+    return showWindow(argc, argv, *folder);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // Asked for in words alone, the program needs no screen.
+    const QStringList given(argv, argv + argc);
+    if (const QString text = commandline::informationText(given); !text.isEmpty()) {
+        std::puts(qPrintable(text));
+        return 0;
+    }
+    if (rendercommand::isAsked(given))
+        return render(argc, argv, given);
+    if (DemoCommand::isAsked(given))
+        return showDemo(argc, argv, given);
+    return showWindow(argc, argv, {});
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/HandTicker.h"
 #include "timeline/FramesModel.h"
 
 #include <mutex>
@@ -9,42 +10,6 @@
 #include <QStringList>
 #include <QTest>
 #include <utility>
-
-/// Ticks when the test says so.
-class HandTicker : public Ticker
-{
-    Q_OBJECT
-
-public:
-    using Ticker::Ticker;
-
-    void start(int intervalMs) override
-    {
-        ++starts;
-        interval = intervalMs;
-        m_active = true;
-    }
-    void stop() override
-    {
-        m_active = false;
-    }
-    bool isActive() const override
-    {
-        return m_active;
-    }
-    /// Does nothing when stopped, as a timer does.
-    void tick(int times = 1)
-    {
-        for (int i = 0; i < times && m_active; ++i)
-            emit ticked();
-    }
-
-    int interval = 0;
-    int starts = 0;
-
-private:
-    bool m_active = false;
-};
 
 /// The model's role numbers start at 0 and overlap the toolkit's own, whose types the model tester checks:
 /// this proxy shows the rows without their values.
