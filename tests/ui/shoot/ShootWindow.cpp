@@ -98,7 +98,7 @@ QQuickItem *ShootWindow::shown(const char *property, const QString &value) const
     return nullptr;
 }
 
-QQuickItem *ShootWindow::find(const char *property, const QString &value)
+QQuickItem *ShootWindow::find(const char *property, const QString &value, int patience)
 {
     QQuickItem *found = nullptr;
     const bool came = QTest::qWaitFor(
@@ -106,7 +106,7 @@ QQuickItem *ShootWindow::find(const char *property, const QString &value)
             found = shown(property, value);
             return found != nullptr;
         },
-        patienceMs);
+        patience);
     if (!came)
         QTest::qFail(qPrintable(u"nothing usable shows with %1 \"%2\""_s.arg(QLatin1String(property), value)),
                      __FILE__, __LINE__);

@@ -60,7 +60,7 @@ public:
 
     /// The first usable item that shows and for which the property has this value or, for a tool tip, begins
     /// with it. Waits for it; null when none comes.
-    QQuickItem *find(const char *property, const QString &value);
+    QQuickItem *find(const char *property, const QString &value, int patience = patienceMs);
     /// The same without waiting.
     QQuickItem *shown(const char *property, const QString &value) const;
     /// The item that shows and that assistive programs know by this name; null without one.
