@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -18,6 +19,10 @@ public:
     QString projectPath() const;
     /// A captured picture, or what lies beside the pictures; their folder when empty.
     QString picturePath(const QString &name) const;
+    QImage picture(const QString &name) const
+    {
+        return QImage(picturePath(name));
+    }
     QString moviePath(const QString &extension) const;
     /// The captured pictures in the folder.
     QStringList pictures() const;
