@@ -57,6 +57,8 @@ MainWindow::~MainWindow()
     controllers().frames.stop();
     // Every item with a device or a worker goes while the model is still there.
     setSource(QUrl(QStringLiteral("qrc:/Dummy.qml")));
+    // What still runs tells the facets of its end, so it ends before they go.
+    controllers().lifecycle.finishOperations();
 }
 
 void MainWindow::prepareWindow()

@@ -41,6 +41,9 @@ void WindowQuitHost::saveWindowState()
 {
     WindowPlacement(m_controllers.settings(), QStringLiteral("mainwindow"), QStringLiteral("maximized"))
         .save(m_window, m_window.windowStates().testFlag(Qt::WindowMaximized));
+    // The list of recent projects shows the film as it is left, not as it was opened.
+    if (m_controllers.lifecycle.projectLoaded())
+        m_controllers.lifecycle.addLastProject();
     m_controllers.settings().sync();
 }
 

@@ -69,11 +69,15 @@ void ShellWindow::build(const Options &options)
     environment.settings = std::make_unique<Settings>(path);
     for (auto it = options.settings.cbegin(); it != options.settings.cend(); ++it)
         environment.settings->setValue(it.key(), it.value());
-    auto dialogs = std::make_unique<FakeDialogs>();
+    if (options.dialogs) {
+        environment.dialogs = options.dialogs();
+    } else {
+        auto dialogs = std::make_unique<FakeDialogs>();
+        m_dialogs = dialogs.get();
+        environment.dialogs = std::move(dialogs);
+    }
     auto desktop = std::make_unique<FakeDesktopServices>();
-    m_dialogs = dialogs.get();
     m_desktop = desktop.get();
-    environment.dialogs = std::move(dialogs);
     environment.desktop = std::move(desktop);
     environment.now = [] {
         return QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26));

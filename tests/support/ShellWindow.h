@@ -29,6 +29,8 @@ public:
         QString settingsPath;
         /// The cameras that there are; the built-in one alone when empty.
         std::function<CaptureEnvironment::Parts()> cameras;
+        /// Dialogs to use instead of the ones that are answered beforehand; dialogs() is not there then.
+        std::function<std::unique_ptr<morvane::Dialogs>()> dialogs;
         /// The clock of the time-lapse tool.
         std::function<std::unique_ptr<Ticker>()> timeLapseTicker;
     };

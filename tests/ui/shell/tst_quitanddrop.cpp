@@ -21,6 +21,7 @@ private slots:
     void closingStopsThePlaybackAndRestsTheDisplay();
     void forcedQuitGivesUnsavedWorkUp();
     void placeOfTheWindowIsKept();
+    void windowGoesWhileAProjectLoads();
 
     void onlyAddressesAreTaken_data();
     void onlyAddressesAreTaken();
@@ -198,6 +199,22 @@ void TestQuitAndDrop::placeOfTheWindowIsKept()
     QVERIFY(settings.contains("mainwindow/geometry"));
     QVERIFY(!settings.boolean("mainwindow/maximized", true));
     QCOMPARE(settings.integer("mainwindow/screenNumber", -1), 0);
+}
+
+void TestQuitAndDrop::windowGoesWhileAProjectLoads()
+{
+    ShellWindow shell;
+    QVERIFY(shell.createProject("long"));
+    const QString path = shell.window().projPath();
+    for (int i = 0; i < 200; ++i)
+        shell.frames().appendFrame({});
+    QVERIFY(shell.window().saveProjectXmlFile(Zum::SaveProjectXMLonly));
+    QVERIFY(shell.createProject("other"));
+    shell.controllers().fileOperations.setSliceMs(0);
+    QCOMPARE(shell.window().openProject(path), int(Zum::FileIsOk));
+    QCOMPARE(shell.window().currentThreadOperation(), int(Zum::OAddFrames));
+    QVERIFY(!shell.window().projectLoaded());
+    // What follows is the end of the window.
 }
 
 void TestQuitAndDrop::onlyAddressesAreTaken_data()
