@@ -57,6 +57,8 @@ public:
     {
         int frames = 0;
         ProcessFigures process;
+        /// Pictures that the views of the film keep in memory.
+        double cacheBytes = 0;
         int objects = 0;
         int items = 0;
         /// A shot, the mean since the sample before.
@@ -82,13 +84,24 @@ public:
     }
     /// What the program's clock shows now, as it stands in names.
     QString timeStamp() const;
+    /// Of the program's time.
+    double hours() const
+    {
+        return double(m_clock->nowMs()) / 3600e3;
+    }
+
+signals:
+    /// There is one more of them.
+    void sampled();
 
 private:
     ShellWindow::Options options();
+    QDateTime now() const;
+    QString stateNow() const;
     void goOn();
     void takeSample();
     void beat();
-    int countItems(const QQuickItem *item) const;
+    void count(const QQuickItem *item, Sample &sample) const;
 
     std::shared_ptr<FakeCaptureClock> m_clock = std::make_shared<FakeCaptureClock>();
     SoakTime *m_time = nullptr;

@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
+#include <QThreadPool>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +31,8 @@ constexpr double residentBytesPerRow = 6000;
 constexpr double residentSlackBytes = 16e6;
 /// A shot in the second half of the film against one in the first.
 constexpr double mostShotGrowth = 1.3;
+
+const QString pooledThread = u"Thread (pooled)"_s;
 
 using Sample = SoakFilm::Sample;
 
@@ -58,14 +61,15 @@ double slope(const QList<Sample> &samples, const std::function<double(const Samp
     return below > 0 ? above / below : 0;
 }
 
+/// The pictures that the views keep have a budget of their own and are not looked at here.
 double resident(const Sample &sample)
 {
-    return double(sample.process.residentBytes);
+    return double(sample.process.residentBytes) - sample.cacheBytes;
 }
 
 double heap(const Sample &sample)
 {
-    return double(sample.process.heapBytes);
+    return double(sample.process.heapBytes) - sample.cacheBytes;
 }
 
 double shotMs(const Sample &sample)
@@ -73,14 +77,18 @@ double shotMs(const Sample &sample)
     return sample.shotMs;
 }
 
-void print(const QList<Sample> &samples)
+void printHead()
 {
-    qInfo(" frames  rss MB heap MB threads files objects items shot ms  gap ms    live project KB");
-    for (const Sample &sample : samples)
-        qInfo("%7d %7.1f %7.1f %7lld %5lld %7d %5d %7.1f %7.1f %7lld %10.0f", sample.frames,
-              resident(sample) / 1e6, heap(sample) / 1e6, qlonglong(sample.process.threads.size()),
-              qlonglong(sample.process.files.size()), sample.objects, sample.items, sample.shotMs,
-              sample.longestGapMs, sample.livePictures, double(sample.projectFileBytes) / 1e3);
+    qInfo(" frames  rss MB heap MB cache MB threads files objects items shot ms  gap ms    live project KB");
+}
+
+void print(const Sample &sample)
+{
+    qInfo("%7d %7.1f %7.1f %8.1f %7lld %5lld %7d %5d %7.1f %7.1f %7lld %10.0f", sample.frames,
+          double(sample.process.residentBytes) / 1e6, double(sample.process.heapBytes) / 1e6,
+          sample.cacheBytes / 1e6, qlonglong(sample.process.threads.size()),
+          qlonglong(sample.process.files.size()), sample.objects, sample.items, sample.shotMs,
+          sample.longestGapMs, sample.livePictures, double(sample.projectFileBytes) / 1e3);
 }
 
 } // namespace
@@ -124,8 +132,10 @@ void TestSoak::initTestCase()
 
 void TestSoak::shootsAllFrames()
 {
+    printHead();
+    connect(m_film.get(), &SoakFilm::sampled, this, [this] { print(m_film->samples().constLast()); });
     QCOMPARE(m_film->shoot(m_frames, qMax(1, m_frames / samplesTaken)), QString());
-    print(m_film->samples());
+    qInfo("%.2f hours have passed for the program", m_film->hours());
     QCOMPARE(m_film->shell().framesNow(), m_frames);
     QCOMPARE(m_film->shell().sceneWarnings(), QStringList());
 }
@@ -134,9 +144,16 @@ void TestSoak::handlesThreadsAndObjectsStayAsTheyAre()
 {
     const QList<Sample> samples = settled();
     const Sample &first = samples.constFirst();
+    // The threads that wait for work of any kind come as they are needed, up to their number.
+    const auto ownThreads = [](const Sample &sample) {
+        QStringList names = sample.process.threads;
+        names.removeAll(pooledThread);
+        return names;
+    };
     for (const Sample &sample : samples) {
         QCOMPARE(sample.process.files, first.process.files);
-        QCOMPARE(sample.process.threads, first.process.threads);
+        QCOMPARE(ownThreads(sample), ownThreads(first));
+        QVERIFY(sample.process.threads.count(pooledThread) <= QThread::idealThreadCount() + 1);
         QCOMPARE(sample.objects, first.objects);
         QCOMPARE(sample.items, first.items);
     }
@@ -144,6 +161,9 @@ void TestSoak::handlesThreadsAndObjectsStayAsTheyAre()
 
 void TestSoak::memoryGrowsWithTheRowsAlone()
 {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("A sanitizer keeps memory that was given back");
+#endif
     const QList<Sample> samples = settled();
     const int rows = samples.constLast().frames - samples.constFirst().frames;
     const double heapSlope = slope(samples, heap);
@@ -170,7 +190,7 @@ void TestSoak::projectHasEveryFrame()
 {
     CaptureWindow &shell = m_film->shell();
     QVERIFY(shell.disconnectCamera());
-    QCOMPARE(shell.framesInProjectFile(), m_frames);
+    QTRY_COMPARE(shell.framesInProjectFile(), m_frames);
     QVERIFY(!shell.global().projectChanged());
     m_rows = ProjectReader::readFile(m_project).document.frames;
 }
@@ -205,7 +225,7 @@ void TestSoak::everyPictureIsWholeAndHasItsOwnName()
     const auto everything = QDir::Files | QDir::Hidden | QDir::System;
     QCOMPARE(pictures.entryList(everything).size(), m_frames);
     QCOMPARE(thumbs.entryList(everything).size(), m_frames);
-    QCOMPARE(QDir(shell.folder()).entryList(u"film*"_s, everything), QStringList(u"film.kzfx"_s));
+    QCOMPARE(QDir(shell.folder()).entryList({u"film*"_s}, everything), QStringList(u"film.kzfx"_s));
 }
 
 void TestSoak::opensAgainWithoutAQuestion()
@@ -215,6 +235,9 @@ void TestSoak::opensAgainWithoutAQuestion()
     again.window().openProject(m_project);
     QVERIFY(QTest::qWaitFor([&] { return again.window().projectLoaded(); }, 60000));
     QCOMPARE(again.frames().framesCount(), m_frames);
+    // The search for pictures without a frame ends before it could ask.
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
     QCOMPARE(again.dialogs().asked.size(), 0);
     for (int row = 0; row < m_frames; ++row) {
         QCOMPARE(again.frames().get(row, false).value(u"capFull"_s).toString(), m_rows.at(row).capFull);
