@@ -79,9 +79,11 @@ void ShellWindow::build(const Options &options)
     auto desktop = std::make_unique<FakeDesktopServices>();
     m_desktop = desktop.get();
     environment.desktop = std::move(desktop);
-    environment.now = [] {
-        return QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26));
-    };
+    environment.now = options.now;
+    if (!environment.now)
+        environment.now = [] {
+            return QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26));
+        };
     environment.quit = [this] {
         ++m_quits;
     };

@@ -33,6 +33,8 @@ public:
         std::function<std::unique_ptr<morvane::Dialogs>()> dialogs;
         /// The clock of the time-lapse tool.
         std::function<std::unique_ptr<Ticker>()> timeLapseTicker;
+        /// What the calendar and the clock on the wall show; one moment for ever when empty.
+        std::function<QDateTime()> now;
     };
 
     ShellWindow();
