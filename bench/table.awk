@@ -44,8 +44,8 @@ BEGIN {
     print "|---|---|---|---|---|---|"
     print "name\tours\tother\tratio\tunit\tlimit\tmet\tothers_used_percent" > values
 }
-FILENAME == measured { ours[$1] = $2; if ($3 != "") beside[$1] = $3; next }
-FILENAME == groups { busy[$1] = $2; next }
+FILENAME ~ /measured$/ { ours[$1] = $2; if ($3 != "") beside[$1] = $3; next }
+FILENAME ~ /groups$/ { busy[$1] = $2; next }
 /^ *(#|$)/ { next }
 {
     split($0, field, "|")
