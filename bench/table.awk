@@ -32,7 +32,7 @@ function row(group, name, figure, other, unit, limit,    measured, compared, rat
         verdict = meets(limit, name) ? "yes" : "**no**"
         if (verdict != "yes") missed = 1
     }
-    if (busy[group] > busyLimit) verdict = verdict " (busy)"
+    if (measured && busy[group] > busyLimit) verdict = verdict " (busy)"
     printf "| %s | %s | %s | %s | %s | %s |\n", figure, measured ? shown(ours[name], unit) : "",
         other == "-" ? "" : (compared ? shown(beside[name], unit) ": " : "") other, ratio,
         limit == "-" ? "" : words(limit, unit), verdict

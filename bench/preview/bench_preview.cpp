@@ -7,7 +7,6 @@
 #include "PreviewOnScreen.h"
 #include "timeline/FramesModel.h"
 
-#include <QDir>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QSet>
@@ -40,7 +39,7 @@ void measureFirst(int runs)
     const QSize reduced(photograph.width() / 4, photograph.height() / 4);
     const auto show = [&] {
         screen.show(other);
-        PreviewOnScreen::waitFor([&] { return !QDir(screen.copies()).isEmpty(); }, 1000);
+        PreviewOnScreen::waitFor([&] { return !screen.copy().isEmpty(); }, 1000);
         PreviewOnScreen::settle(50);
         screen.removeCopies();
         screen.item().clearCache(first);
@@ -56,9 +55,9 @@ void measureCopy(int runs)
     screen.addPicture(first, photograph);
     screen.addPicture(other, {64, 36});
     screen.show(first);
-    PreviewOnScreen::waitFor([&] { return !QDir(screen.copies()).isEmpty(); });
+    PreviewOnScreen::waitFor([&] { return !screen.copy().isEmpty(); });
     PreviewOnScreen::settle();
-    const QString copy = screen.copies() + QDir(screen.copies()).entryList(QDir::Files).value(0);
+    const QString copy = screen.copy();
     const auto show = [&] {
         screen.show(other);
         screen.item().clearCache(first);
