@@ -201,12 +201,12 @@ int main(int argc, char **argv)
     for (int i = 0; i < 100; ++i)
         scroller.nextFrame();
     const double everything = 1e9;
-    scroller.endToEnd(frameWidth, frameWidth * 500);
+    scroller.endToEnd(frameWidth, frameWidth * (quick ? 50 : 500));
     scroller.endToEnd(halfPage, everything);
     // By now the caches hold what they may.
     const double before = figures::residentMb();
     scroller.endToEnd(halfPage, everything);
-    scroller.jumps(200);
+    scroller.jumps(quick ? 20 : 200);
     scroller.endToEnd(halfPage, everything);
     figures::print("scroll-memory", figures::residentMb() - before);
     figures::print("scroll-cpu", scroller.longest().cpu);
