@@ -1,7 +1,6 @@
 // What capturing costs: a grabbed picture on its way to a texture against the copies and conversions that it
-// needs, a shot from the request to the row against the bare encoding of its files, and 2,000 shots in a row.
-// "ratio" is the one over the other; "pictures_behind" is how many pictures the screen was behind the camera
-// at the most.
+// needs, a shot from the request to the row against the bare encoding of its files, live view on the screen,
+// and 2,000 shots in a row.
 
 #include "capture/CaptureWorkflow.h"
 #include "capture/LivePicture.h"
@@ -9,30 +8,26 @@
 #include "capture/webcam/FrameGrabber.h"
 #include "capture/webcam/FrameSaver.h"
 #include "capture/webcam/WebCamWindow.h"
+#include "Figures.h"
 #include "shared/Settings.h"
 #include "shared/WebcamGlobal.h"
 #include "support/FakeCapture.h"
 #include "timeline/FramesModel.h"
 
-#include <benchmark/benchmark.h>
 #include <algorithm>
-#include <ctime>
 #include <opencv2/core.hpp>
 #include <opencv2/imgproc.hpp>
 #include <QBuffer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QImageWriter>
 #include <QQuickWindow>
 #include <QTemporaryDir>
-#include <vector>
 
 namespace {
 
 constexpr int intervalMs = 33;
-constexpr int bareRuns = 7;
 constexpr QSize fullHd(1920, 1080);
 
 /// The stage in its large size, drawn once.
@@ -79,62 +74,33 @@ private:
     cv::Mat m_stage = stage();
 };
 
-/// Time that this thread has had of a processor.
-double processorMs()
-{
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
-}
-
-double elapsedMs(const QElapsedTimer &timer)
-{
-    return double(timer.nsecsElapsed()) / 1e6;
-}
-
-/// Milliseconds of the best of some runs: the machine is shared.
-template <typename Call>
-double best(Call call, int runs = bareRuns)
-{
-    double least = 1e9;
-    for (int i = 0; i < runs; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        call();
-        least = std::min(least, elapsedMs(timer));
-    }
-    return least;
-}
-
-void grabToSharedPicture(benchmark::State &state)
+void grabToSharedPicture(const char *name, QSize available)
 {
     StageSource source;
     LivePicture live;
     CaptureRequests requests;
     FrameGrabber grabber(source, live, nullptr, requests, {[] {}, [](const auto &) {}, {}});
-    grabber.setAvailableWidth(int(state.range(0)));
-    grabber.setAvailableHeight(int(state.range(1)));
+    grabber.setAvailableWidth(available.width());
+    grabber.setAvailableHeight(available.height());
     grabber.setHistogramWanted(false);
-    for (auto _ : state)
-        grabber.grab();
     cv::Mat picture;
     source.read(picture);
-    const double grab = best([&] { grabber.grab(); }, 30);
-    const double bare = best(
-        [&] {
+    const auto grab = [&] {
+        return figures::timed([&] { grabber.grab(); });
+    };
+    const auto bare = [&] {
+        return figures::timed([&] {
             cv::Mat small = picture;
-            if (state.range(0) < picture.cols)
-                cv::resize(picture, small, cv::Size(int(state.range(0)), int(state.range(1))), 0, 0,
+            if (available.width() < picture.cols)
+                cv::resize(picture, small, cv::Size(available.width(), available.height()), 0, 0,
                            cv::INTER_AREA);
             QImage image(small.cols, small.rows, QImage::Format_ARGB32);
             cv::Mat view(small.rows, small.cols, CV_8UC4, image.bits(), size_t(image.bytesPerLine()));
             cv::cvtColor(small, view, cv::COLOR_BGR2BGRA);
-            benchmark::DoNotOptimize(image.constBits());
-        },
-        30);
-    state.counters["ratio"] = grab / bare;
+        });
+    };
+    figures::print(name, figures::inTurn(100, grab, bare));
 }
-BENCHMARK(grabToSharedPicture)->Args({1920, 1080})->Args({960, 540})->Unit(benchmark::kMillisecond);
 
 /// The program's capture without its scene, on the machine's own clock.
 struct Studio
@@ -164,6 +130,12 @@ struct Studio
         while (!done())
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
+    /// Returns with the next picture of the live view, one interval before the camera is asked again.
+    void waitForPicture() const
+    {
+        const int before = environment->demo().delivered();
+        waitFor([&] { return environment->demo().delivered() > before; });
+    }
     void shoot()
     {
         const int rows = frames.framesCount();
@@ -176,7 +148,7 @@ struct Studio
         waitFor([&] { return frames.framesCount() > rows; });
     }
 
-    QTemporaryDir folder{QDir::currentPath() + "/bench_capture_XXXXXX"};
+    QTemporaryDir folder;
     Settings settings{folder.filePath("settings.ini")};
     LivePicture picture;
     WebcamGlobal global;
@@ -186,10 +158,10 @@ struct Studio
     WebCamWindow device;
 };
 
-double bareEncodeMs(const QString &path)
+/// The picture and the thumbnail of a shot as bytes.
+double bareEncodeMs(const QImage &image)
 {
-    const QImage image = QImage(path).convertToFormat(QImage::Format_RGB888);
-    return best([&] {
+    return figures::timed([&image] {
         for (const auto &[picture, quality] :
              {std::pair(image, 100), std::pair(image.scaled(90, 60, Qt::KeepAspectRatio), 67)}) {
             QByteArray bytes;
@@ -225,9 +197,9 @@ struct NobodyListens : SaveObserver
 };
 
 /// What the camera's thread does for a shot, the waiting for the next picture left out.
-void saveShot(benchmark::State &state)
+void saveShot(int runs)
 {
-    const QTemporaryDir folder(QDir::currentPath() + "/bench_capture_XXXXXX");
+    const QTemporaryDir folder;
     NobodyListens nobody;
     FrameSaver saver(nobody);
     // A camera's picture has noise, and is dearer to encode than a drawing.
@@ -243,103 +215,66 @@ void saveShot(benchmark::State &state)
         CaptureRequest request;
         request.fullPath = folder.filePath(QString("full_%1.jpg").arg(number));
         request.tumbPath = folder.filePath(QString("tumb_%1.jpg").arg(number));
-        saver.save(image, request);
+        return figures::timed([&] { saver.save(image, request); });
     };
-    for (auto _ : state)
-        save();
-    state.counters["bare_ms"] = bareEncodeMs(folder.filePath("full_1.jpg"));
-    state.counters["ratio"] = best(save, 20) / bareEncodeMs(folder.filePath("full_1.jpg"));
-    const double before = processorMs();
-    save();
-    const double ofSave = processorMs() - before;
-    bareEncodeMs(folder.filePath("full_1.jpg"));
-    const double ofBoth = processorMs() - before;
-    state.counters["processor_ratio"] = ofSave * bareRuns / (ofBoth - ofSave);
+    figures::print("shot-save", figures::inTurn(runs, save, [&] { return bareEncodeMs(image); }));
 }
-BENCHMARK(saveShot)->Iterations(30)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-void keyPressToRow(benchmark::State &state)
+/// The key is pressed just after the camera was asked for a picture, so that all of an interval has to pass
+/// until it is asked again; that interval does not count.
+void keyPressToRow(int runs)
 {
     Studio studio;
-    std::vector<double> times;
-    for (auto _ : state) {
-        QElapsedTimer timer;
-        timer.start();
-        studio.shoot();
-        times.push_back(elapsedMs(timer));
-    }
-    const double bare = bareEncodeMs(studio.folder.filePath(studio.global.unsavedCapturedFull()));
-    state.counters["bare_ms"] = bare;
-    std::sort(times.begin(), times.end());
-    state.counters["longest_ms"] = times.back();
-    state.counters["median_ms"] = times[times.size() / 2];
-    // At most 1.3: what is left beside one interval, over the bare encoding.
-    state.counters["ratio"] = (times.front() - intervalMs) / bare;
-}
-BENCHMARK(keyPressToRow)->Iterations(40)->Unit(benchmark::kMillisecond)->UseRealTime();
-
-long residentKb()
-{
-    QFile status("/proc/self/status");
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmRSS:"))
-            return line.mid(6).trimmed().split(' ').first().toLong();
-    }
-    return 0;
+    studio.shoot();
+    const QImage image = QImage(studio.folder.filePath(studio.global.unsavedCapturedFull()))
+                             .convertToFormat(QImage::Format_RGB888);
+    const auto shoot = [&studio] {
+        studio.waitForPicture();
+        return figures::timed([&studio] { studio.shoot(); }) - intervalMs;
+    };
+    figures::print("key-to-row", figures::inTurn(runs, shoot, [&image] { return bareEncodeMs(image); }));
 }
 
-void twoThousandShots(benchmark::State &state)
+void manyShots(int count)
 {
-    for (auto _ : state) {
-        Studio studio;
-        double first = 0;
-        double last = 0;
-        long early = 0;
-        for (int i = 0; i < 2000; ++i) {
-            QElapsedTimer timer;
-            timer.start();
-            studio.shoot();
-            (i < 1000 ? first : last) += elapsedMs(timer);
-            QFile::remove(studio.folder.filePath(studio.global.unsavedCapturedFull()));
-            if (i == 200)
-                early = residentKb();
-        }
-        state.counters["grown_kB"] = double(residentKb() - early);
-        state.counters["second_half_over_first"] = last / first;
+    Studio studio;
+    std::vector<double> first;
+    std::vector<double> second;
+    double early = 0;
+    for (int i = 0; i < count; ++i) {
+        (i < count / 2 ? first : second).push_back(figures::timed([&studio] { studio.shoot(); }));
+        QFile::remove(studio.folder.filePath(studio.global.unsavedCapturedFull()));
+        if (i == count / 10)
+            early = figures::residentMb();
     }
+    figures::print("shots-memory", figures::residentMb() - early);
+    figures::print("shots-time", {figures::median(second), figures::median(first)});
 }
-BENCHMARK(twoThousandShots)->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-/// Ten seconds of live view in a window.
-void liveOnScreen(benchmark::State &state)
+void liveOnScreen(int seconds)
 {
-    for (auto _ : state) {
-        Studio studio;
-        QQuickWindow window;
-        window.resize(960, 540);
-        studio.device.setParentItem(window.contentItem());
-        window.show();
-        int behind = 0;
-        int shown = 0;
-        QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&] { ++shown; });
-        const auto *view = qobject_cast<LiveViewItem *>(studio.device.liveView());
-        int delivered = 0;
-        QObject::connect(view, &LiveViewItem::refreshme, &window, [&] {
-            behind = std::max(behind, studio.environment->demo().delivered() - delivered - 1);
-            delivered = studio.environment->demo().delivered();
-        });
-        delivered = studio.environment->demo().delivered();
-        QElapsedTimer timer;
-        timer.start();
-        Studio::waitFor([&] { return timer.elapsed() > 10000; });
-        state.counters["pictures_behind"] = behind;
-        state.counters["shown_a_second"] = shown / 10.0;
-        studio.device.setParentItem(nullptr);
-    }
+    Studio studio;
+    QQuickWindow window;
+    window.resize(960, 540);
+    studio.device.setParentItem(window.contentItem());
+    window.show();
+    int behind = 0;
+    int shown = 0;
+    const auto *view = qobject_cast<LiveViewItem *>(studio.device.liveView());
+    int delivered = studio.environment->demo().delivered();
+    QObject::connect(view, &LiveViewItem::refreshme, &window, [&] {
+        const int now = studio.environment->demo().delivered();
+        behind = std::max(behind, now - delivered - 1);
+        delivered = now;
+        ++shown;
+    });
+    QElapsedTimer timer;
+    timer.start();
+    Studio::waitFor([&] { return timer.elapsed() > seconds * 1000; });
+    figures::print("live-behind", behind);
+    figures::print("live-rate", double(shown) / seconds);
+    studio.device.setParentItem(nullptr);
 }
-BENCHMARK(liveOnScreen)->Iterations(1)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void dropLog(QtMsgType, const QMessageLogContext &, const QString &)
 {
@@ -351,9 +286,12 @@ int main(int argc, char **argv)
 {
     const QGuiApplication app(argc, argv);
     qInstallMessageHandler(dropLog);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
+    const bool quick = figures::quick(argc, argv);
+    grabToSharedPicture("grab-whole", fullHd);
+    grabToSharedPicture("grab-half", fullHd / 2);
+    saveShot(quick ? 10 : 60);
+    keyPressToRow(quick ? 20 : 100);
+    liveOnScreen(quick ? 2 : 10);
+    manyShots(quick ? 100 : 2000);
     return 0;
 }

@@ -1,9 +1,9 @@
-// What the chain of filters costs beside the calls of OpenCV and the conversions that it cannot do without:
-// each "chain" has its "bare" of the same filter, on a picture of the size that a preview shows.
+// What the chain of filters costs beside the calls of OpenCV and the conversions that it cannot do without,
+// on a picture of the size that a preview shows.
 
+#include "Figures.h"
 #include "preview/ImLightEq.h"
 
-#include <benchmark/benchmark.h>
 #include <opencv2/imgproc.hpp>
 #include <opencv2/photo.hpp>
 #include <QVariantMap>
@@ -84,40 +84,35 @@ cv::Mat all(const cv::Mat &mat)
 }
 
 template <typename Filter>
-void bare(benchmark::State &state, Filter filter)
-{
-    const QImage image = picture();
-    for (auto _ : state)
-        benchmark::DoNotOptimize(argb(filter(bgr(image))));
-}
-
-void chain(benchmark::State &state, const QVariantMap &settings)
+void compare(const char *name, int runs, const QVariantMap &settings, Filter filter)
 {
     const QImage image = picture();
     ImLightEq filters;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(filters.process(image, settings, 1.0));
+    const auto chain = [&] {
+        return figures::timed([&] {
+            if (filters.process(image, settings, 1.0).isNull())
+                qFatal("%s gives no picture", name);
+        });
+    };
+    const auto bare = [&] {
+        return figures::timed([&] {
+            if (argb(filter(bgr(image))).isNull())
+                qFatal("no picture");
+        });
+    };
+    figures::print(name, figures::inTurn(runs, chain, bare));
 }
-
-const QVariantMap contrastOnly{{"contrast", 20}};
-const QVariantMap saturationOnly{{"saturation", 80}};
-const QVariantMap denoiseOnly{{"denoise", 30}};
-const QVariantMap enhanceOnly{{"enhance", "10;0.15"}};
-const QVariantMap everything{{"contrast", 20}, {"saturation", 80}, {"denoise", 30}, {"enhance", "10;0.15"}};
-const QVariantMap keyOnly{{"chromakey", "60;40;#00ff01"}};
-
-#define COMPARED(name, settings, ...)                          \
-    BENCHMARK_CAPTURE(bare, name, __VA_ARGS__)->UseRealTime(); \
-    BENCHMARK_CAPTURE(chain, name, settings)->UseRealTime()
-
-COMPARED(contrast, contrastOnly, contrast);
-COMPARED(saturation, saturationOnly, saturation);
-COMPARED(denoise, denoiseOnly, denoise);
-COMPARED(enhance, enhanceOnly, enhance);
-COMPARED(all, everything, all);
-// Keying calls nothing of OpenCV; there is nothing beside it.
-BENCHMARK_CAPTURE(chain, chromakey, keyOnly)->UseRealTime();
 
 } // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char **argv)
+{
+    const int runs = figures::quick(argc, argv) ? 3 : 15;
+    compare("contrast", runs, {{"contrast", 20}}, contrast);
+    compare("saturation", runs, {{"saturation", 80}}, saturation);
+    compare("denoise", runs, {{"denoise", 30}}, denoise);
+    compare("enhance", runs, {{"enhance", "10;0.15"}}, enhance);
+    compare("all-filters", runs,
+            {{"contrast", 20}, {"saturation", 80}, {"denoise", 30}, {"enhance", "10;0.15"}}, all);
+    return 0;
+}

@@ -1,7 +1,6 @@
 #include "PreviewOnScreen.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QImageWriter>
 #include <QTimer>
 
@@ -83,9 +82,15 @@ bool PreviewOnScreen::waitFor(const std::function<bool()> &done, int limitMs)
     return true;
 }
 
+QString PreviewOnScreen::copy() const
+{
+    const QStringList names = copies().entryList({QStringLiteral("*.jpg")}, QDir::Files);
+    return names.isEmpty() ? QString() : copies().filePath(names.first());
+}
+
 void PreviewOnScreen::removeCopies() const
 {
-    QDir folder(copies());
+    QDir folder = copies();
     for (const QString &name : folder.entryList(QDir::Files))
         folder.remove(name);
 }

@@ -3,6 +3,7 @@
 #include "preview/RamPreview.h"
 
 #include <functional>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QQuickWindow>
 #include <QTemporaryDir>
@@ -26,10 +27,8 @@ public:
     {
         return m_folder.path() + QStringLiteral("/cap/");
     }
-    QString copies() const
-    {
-        return m_folder.path() + QStringLiteral("/tmp/cache/");
-    }
+    /// The path of a disk copy that is whole; empty while there is none.
+    QString copy() const;
     /// A JPEG with as much detail as a photograph has.
     void addPicture(const QString &name, QSize size, int seed = 0) const;
 
@@ -42,6 +41,11 @@ public:
     void removeCopies() const;
 
 private:
+    QDir copies() const
+    {
+        return QDir(m_folder.path() + QStringLiteral("/tmp/cache"));
+    }
+
     QTemporaryDir m_folder;
     QQuickWindow m_window;
     RamPreview *m_item = nullptr;

@@ -1,138 +1,235 @@
+// A film of 10,000 frames: opening and saving it beside the bare stream that does the same, and the longest
+// that the main thread is away from its event loop while one opens and edits it. Then the same on a film ten
+// times as long, which may take ten times as long and no more.
+
 #include "BareProject.h"
-#include "project/FrameFiles.h"
-#include "project/ProjectReader.h"
+#include "Figures.h"
+#include "GapMeter.h"
+#include "OpenProgram.h"
 #include "project/ProjectWriter.h"
 #include "SampleProject.h"
 
-#include <benchmark/benchmark.h>
-#include <algorithm>
-#include <cstdio>
+#include <functional>
 #include <map>
-#include <memory>
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QThreadPool>
 #include <string>
-#include <vector>
 
 namespace {
 
-/// Made once for each size and kept until the program ends.
-const SampleProject &sampleOf(benchmark::State &state)
+constexpr int selectedFrames = 1000;
+constexpr int records = 300;
+
+void runUntil(const std::function<bool()> &done)
 {
-    static std::map<int64_t, std::unique_ptr<SampleProject>> samples;
-    std::unique_ptr<SampleProject> &sample = samples[state.range(0)];
-    if (!sample)
-        sample = std::make_unique<SampleProject>(static_cast<int>(state.range(0)));
-    return *sample;
+    while (!done())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-void openBare(benchmark::State &state)
-{
-    const SampleProject &sample = sampleOf(state);
-    for (auto _ : state) {
-        if (bare::open(sample.tree().projPath, sample.tree()) != 2 * state.range(0))
-            state.SkipWithError("files are missing");
-    }
-}
-
-void openProject(benchmark::State &state)
-{
-    const SampleProject &sample = sampleOf(state);
-    for (auto _ : state) {
-        const ProjectReadResult result = ProjectReader::readFile(sample.tree().projPath);
-        for (const ProjectFrame &frame : result.document.frames) {
-            const CheckedFrame checked = FrameFiles::check(frame, sample.tree());
-            if (checked.capFullMissing)
-                state.SkipWithError("files are missing");
-            benchmark::DoNotOptimize(checked.toMap());
-        }
-    }
-}
-
-void saveBare(benchmark::State &state)
-{
-    const SampleProject &sample = sampleOf(state);
-    for (auto _ : state) {
-        if (!bare::save(sample.otherPath(), sample.document().frames))
-            state.SkipWithError("cannot save");
-    }
-}
-
-void saveProject(benchmark::State &state)
-{
-    const SampleProject &sample = sampleOf(state);
-    for (auto _ : state) {
-        if (!ProjectWriter::save(sample.otherPath(), sample.document()).ok)
-            state.SkipWithError("cannot save");
-    }
-}
-
-constexpr int fewestFrames = 100;
-constexpr int mostFrames = 100'000;
-
-#define MORVANE_SIZES \
-    ->RangeMultiplier(10)->Range(fewestFrames, mostFrames)->UseRealTime()->Unit(benchmark::kMillisecond)
-BENCHMARK(openBare) MORVANE_SIZES;
-BENCHMARK(openProject) MORVANE_SIZES;
-BENCHMARK(saveBare) MORVANE_SIZES;
-BENCHMARK(saveProject) MORVANE_SIZES;
-
-/// Shows the runs as usual, and at the end how the program stands to the bare stream of the same size.
-class RatioReporter : public benchmark::ConsoleReporter
+/// The figures of a film of one length.
+class Film
 {
 public:
-    void ReportRuns(const std::vector<Run> &runs) override
+    Film(int frames, int runs)
+        : m_frames(frames), m_runs(runs), m_sample(frames), m_program(m_sample.settingsPath())
     {
-        for (const Run &run : runs) {
-            if (run.run_type == Run::RT_Iteration && !run.error_occurred)
-                m_times[run.run_name.function_name][run.run_name.args].push_back(run.GetAdjustedRealTime());
-        }
-        ConsoleReporter::ReportRuns(runs);
     }
 
-    void Finalize() override
+    void measure()
     {
-        std::printf("\n%-12s %10s %10s %12s\n", "", "frames", "ratio", "at most");
-        printRatios("open", "openProject", "openBare", 2.0);
-        printRatios("save", "saveProject", "saveBare", 1.5);
+        openings();
+        savings();
+        waitFor([this] { m_program.model.searchStaticness(0, m_program.model.last()); });
+        holdScans();
+        selections();
+        undoAndRedo();
+        m_program.life.closeProject();
+        open();
+        rest();
+        deletion();
+    }
+
+    figures::Compared opening() const
+    {
+        return m_opening;
+    }
+    figures::Compared saving() const
+    {
+        return m_saving;
+    }
+    /// The longest that a kind of work kept the main thread from its event loop, in milliseconds.
+    const std::map<std::string, double> &gaps() const
+    {
+        return m_gaps;
+    }
+    /// What a kind of work takes, in milliseconds; only those whose work grows with the film.
+    const std::map<std::string, double> &times() const
+    {
+        return m_times;
     }
 
 private:
-    static double median(std::vector<double> times)
+    void openings()
     {
-        std::sort(times.begin(), times.end());
-        return times[times.size() / 2];
+        m_opening = figures::inTurn(
+            m_runs,
+            [this] {
+                const double time = watched("open", [this] { open(); });
+                rest();
+                if (m_program.model.framesCount() != m_frames)
+                    qFatal("frames are missing");
+                return time;
+            },
+            [this] {
+                return figures::timed([this] {
+                    if (bare::open(m_sample.tree().projPath, m_sample.tree()) != 2 * m_frames)
+                        qFatal("files are missing");
+                });
+            });
+        m_times["open"] = m_opening.ours;
     }
 
-    void printRatios(const char *label, const std::string &ours, const std::string &bareOnes, double most)
+    void savings()
     {
-        for (int frames = fewestFrames; frames <= mostFrames; frames *= 10) {
-            const std::string size = std::to_string(frames);
-            const std::vector<double> &own = m_times[ours][size];
-            const std::vector<double> &other = m_times[bareOnes][size];
-            if (!own.empty() && !other.empty())
-                std::printf("%-12s %10d %10.2f %12.1f\n", label, frames, median(own) / median(other), most);
+        m_saving = figures::inTurn(
+            m_runs * 2,
+            [this] {
+                return figures::timed([this] {
+                    if (!ProjectWriter::save(m_sample.otherPath(), m_sample.document()).ok)
+                        qFatal("cannot save");
+                });
+            },
+            [this] {
+                return figures::timed([this] {
+                    if (!bare::save(m_sample.otherPath(), m_sample.document().frames))
+                        qFatal("cannot save");
+                });
+            });
+        m_times["save"] = m_saving.ours;
+    }
+
+    void holdScans()
+    {
+        std::vector<double> times;
+        for (int run = 0; run < m_runs; ++run) {
+            times.push_back(watched("scan", [this] {
+                m_program.model.switchMirroredOnSingleFrame(m_frames / 2);
+                waitFor([this] { m_program.model.searchStaticness(0, m_program.model.last()); });
+            }));
         }
+        m_times["scan"] = figures::median(times);
     }
 
-    std::map<std::string, std::map<std::string, std::vector<double>>> m_times;
+    void selections()
+    {
+        std::vector<double> times;
+        for (int run = 0; run < m_runs; ++run) {
+            times.push_back(watched("select", [this] {
+                m_program.model.selectAll();
+                QCoreApplication::processEvents();
+            }));
+            if (m_program.model.selectedCount() != m_frames)
+                qFatal("not all are selected");
+            waitFor([this] { m_program.model.dismiss(); });
+        }
+        m_times["select"] = figures::median(times);
+    }
+
+    void undoAndRedo()
+    {
+        FramesModel &model = m_program.model;
+        for (int i = 0; i < records; ++i)
+            model.appendFrame({}, false, int(qint64(i) * 7919 % m_frames));
+        const int full = model.framesCount();
+        m_times["undo"] = watched("undo", [&] {
+            for (int i = 0; i < 2 * records; ++i) {
+                i < records ? model.undo() : model.redo();
+                QCoreApplication::processEvents();
+                if (i == records - 1 && model.framesCount() != full - records)
+                    qFatal("not all is undone");
+            }
+        });
+        if (model.framesCount() != full)
+            qFatal("not all is redone");
+    }
+
+    /// Spread evenly over the film.
+    void deletion()
+    {
+        for (int i = 0; i < selectedFrames; ++i)
+            m_program.model.switchSelectionOnSingleFrame(i * (m_frames / selectedFrames));
+        m_times["delete"] = watched("delete", [this] {
+            waitFor([this] { m_program.model.actionOnSelectedFrames(Zum::ActDelete); });
+        });
+        if (m_program.model.framesCount() != m_frames - selectedFrames)
+            qFatal("%d frames are left", m_program.model.framesCount());
+    }
+
+    void open()
+    {
+        if (m_program.life.projectFileOpen(m_sample.tree().projPath) != Zum::FileIsOk)
+            qFatal("cannot open %s", qUtf8Printable(m_sample.tree().projPath));
+        runUntil([this] { return m_program.life.projectLoaded(); });
+    }
+    /// What goes on in the background after an opening belongs to no figure.
+    static void rest()
+    {
+        QThreadPool::globalInstance()->waitForDone();
+        QCoreApplication::processEvents();
+    }
+    template <typename Work>
+    void waitFor(Work work)
+    {
+        work();
+        runUntil([this] { return m_program.model.currentAction() == Zum::ActNoAction; });
+    }
+    template <typename Work>
+    double watched(const char *name, Work work)
+    {
+        GapMeter meter;
+        meter.start();
+        const double time = figures::timed(work);
+        m_gaps[name] = std::max(m_gaps[name], meter.stop().wall);
+        return time;
+    }
+
+    const int m_frames;
+    const int m_runs;
+    const SampleProject m_sample;
+    OpenProgram m_program;
+    figures::Compared m_opening;
+    figures::Compared m_saving;
+    std::map<std::string, double> m_gaps;
+    std::map<std::string, double> m_times;
 };
+
+void dropLog(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type == QtFatalMsg)
+        std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+}
 
 } // namespace
 
-// Runs of the pairs take turns, so that a busy machine slows both alike.
 int main(int argc, char **argv)
 {
-    std::vector<std::string> arguments{argv[0], "--benchmark_repetitions=5",
-                                       "--benchmark_enable_random_interleaving=true",
-                                       "--benchmark_min_time=0.1"};
-    arguments.insert(arguments.end(), argv + 1, argv + argc);
-    std::vector<char *> pointers;
-    for (std::string &argument : arguments)
-        pointers.push_back(argument.data());
-    int count = static_cast<int>(pointers.size());
-    benchmark::Initialize(&count, pointers.data());
-    if (benchmark::ReportUnrecognizedArguments(count, pointers.data()))
-        return 1;
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
+    const QCoreApplication app(argc, argv);
+    qInstallMessageHandler(dropLog);
+    const bool quick = figures::quick(argc, argv);
+    constexpr int frames = 10'000;
+    Film film(frames, quick ? 3 : 9);
+    film.measure();
+    figures::print("open", film.opening());
+    figures::print("save", film.saving());
+    for (const auto &[name, gap] : film.gaps())
+        figures::print((name + "-gap").c_str(), gap);
+    if (quick)
+        return 0;
+
+    Film longer(10 * frames, 3);
+    longer.measure();
+    for (const auto &[name, time] : longer.times())
+        figures::print((name + "-long").c_str(), {time, 10 * film.times().at(name)});
     return 0;
 }

@@ -1,9 +1,9 @@
 // Scrolls the timeline of a long film from one end to the other in the program's own window: how long that
-// keeps the main thread from its event loop, and whether memory grows. One line for each way to scroll; "gap"
-// is by the clock and grows on a busy machine, "cpu" is what the main thread itself computed between two
-// turns of its loop.
+// keeps the main thread from its event loop, and how much memory grows. What a machine without a graphics
+// card draws is in the time by the clock, but not in the time that the main thread itself computed.
 
-#include "../project/GapMeter.h"
+#include "Figures.h"
+#include "GapMeter.h"
 
 #include "app/AppControllers.h"
 #include "app/MainWindow.h"
@@ -11,11 +11,9 @@
 #include "project/ProjectTree.h"
 #include "project/ProjectWriter.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
-#include <functional>
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
@@ -32,6 +30,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int pictures = 64;
+constexpr double frameWidth = 96;
+constexpr double halfPage = 900;
 
 /// A film with a thumbnail for every frame. Many frames name links to the same few pictures, but each has a
 /// file and thus a place in the caches of its own.
@@ -93,16 +93,6 @@ private:
     ProjectTree m_tree;
 };
 
-/// Megabytes of this process in memory.
-double residentMb()
-{
-    QFile file(u"/proc/self/statm"_s);
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    constexpr double pageMb = 4096 / 1048576.0;
-    return file.readAll().split(' ').value(1).toDouble() * pageMb;
-}
-
 std::unique_ptr<AppControllers> controllers(const Film &film, QQmlEngine &engine)
 {
     auto settings = std::make_unique<Settings>(film.settingsPath());
@@ -138,49 +128,52 @@ public:
     }
 
     /// Goes on by so many pixels with every frame of the scene, from the start to the end.
-    void endToEnd(const char *name, double pixels, double most) const
+    void endToEnd(double pixels, double most)
     {
         evaluate(u"timelineBox.strip.scrollTo(0)"_s);
         for (int i = 0; i < 20; ++i)
             nextFrame();
-        const double width = qMin(most, evaluate(u"timelineBox.strip.flickable.contentWidth"_s).toDouble());
-        const double before = residentMb();
-        double highest = before;
-        int frames = 0;
-        GapMeter meter;
-        meter.start();
-        for (double x = 0; x < width; x += pixels, ++frames) {
-            evaluate(u"timelineBox.strip.scrollTo(%1)"_s.arg(x));
-            nextFrame();
-            highest = qMax(highest, residentMb());
-        }
-        const GapMeter::Gap gap = meter.stop();
-        std::printf(
-            "%-22s %6d scene frames   gap %6.1f ms   cpu %6.1f ms   memory %6.1f MB, %+5.1f, at most "
-            "%+5.1f\n",
-            name, frames, gap.wall, gap.cpu, before, residentMb() - before, highest - before);
-        std::fflush(stdout);
+        const double width = qMin(most, contentWidth());
+        const auto place = [pixels](int step) {
+            return step * pixels;
+        };
+        scroll(place, int(width / pixels));
     }
-
     /// As the scroll bar does when its handle is thrown about.
-    void jumps(const char *name, int count) const
+    void jumps(int count)
     {
-        const double width = evaluate(u"timelineBox.strip.flickable.contentWidth"_s).toDouble();
-        GapMeter meter;
-        const double before = residentMb();
-        meter.start();
-        for (int i = 0; i < count; ++i) {
-            evaluate(u"timelineBox.strip.scrollTo(%1)"_s.arg(std::fmod(i * 0.382 * width, width)));
-            nextFrame();
-        }
-        const GapMeter::Gap gap = meter.stop();
-        std::printf("%-22s %6d scene frames   gap %6.1f ms   cpu %6.1f ms   memory %6.1f MB, %+5.1f\n", name,
-                    count, gap.wall, gap.cpu, before, residentMb() - before);
-        std::fflush(stdout);
+        const double width = contentWidth();
+        const auto place = [width](int step) {
+            return std::fmod(step * 0.382 * width, width);
+        };
+        scroll(place, count);
+    }
+    /// The longest of all that was scrolled.
+    GapMeter::Gap longest() const
+    {
+        return m_longest;
     }
 
 private:
+    double contentWidth() const
+    {
+        return evaluate(u"timelineBox.strip.flickable.contentWidth"_s).toDouble();
+    }
+    template <typename Place>
+    void scroll(Place place, int steps)
+    {
+        GapMeter meter;
+        meter.start();
+        for (int step = 0; step < steps; ++step) {
+            evaluate(u"timelineBox.strip.scrollTo(%1)"_s.arg(place(step)));
+            nextFrame();
+        }
+        const GapMeter::Gap gap = meter.stop();
+        m_longest = {qMax(m_longest.wall, gap.wall), qMax(m_longest.cpu, gap.cpu)};
+    }
+
     MainWindow &m_window;
+    GapMeter::Gap m_longest;
 };
 
 void dropLog(QtMsgType type, const QMessageLogContext &, const QString &text)
@@ -196,25 +189,28 @@ int main(int argc, char **argv)
     const QApplication app(argc, argv);
     qInstallMessageHandler(dropLog);
     typeregistry::registerTypes();
-    const int frames = argc > 1 ? QByteArray(argv[1]).toInt() : 10'000;
-    const Film film(frames);
+    const bool quick = figures::quick(argc, argv);
+    const Film film(quick ? 1000 : 10'000);
     QQmlEngine engine;
     MainWindow window(controllers(film, engine), {u"morvane"_s, film.path()});
     window.resize(1920, 1080);
     window.show();
     while (!window.projectLoaded() || window.controllers().frames.currentAction() != Zum::ActNoAction)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    const Scroller scroller(window);
+    Scroller scroller(window);
     for (int i = 0; i < 100; ++i)
         scroller.nextFrame();
     const double everything = 1e9;
-    std::printf("%d frames, %s\n", window.controllers().frames.framesCount(), "1920x1080");
-    scroller.endToEnd("a frame at a time", 96, 96 * 500);
-    scroller.endToEnd("half a page at a time", 900, everything);
-    scroller.endToEnd("again", 900, everything);
-    scroller.jumps("jumps", 200);
-    scroller.evaluate(u"timelineBox.contentScale = 0.3"_s);
-    scroller.endToEnd("small frames", 900, everything);
+    scroller.endToEnd(frameWidth, frameWidth * (quick ? 50 : 500));
+    scroller.endToEnd(halfPage, everything);
+    // By now the caches hold what they may.
+    const double before = figures::residentMb();
+    scroller.endToEnd(halfPage, everything);
+    scroller.jumps(quick ? 20 : 200);
+    scroller.endToEnd(halfPage, everything);
+    figures::print("scroll-memory", figures::residentMb() - before);
+    figures::print("scroll-cpu", scroller.longest().cpu);
+    figures::print("scroll-gap", scroller.longest().wall);
     window.quit(true);
     return 0;
 }

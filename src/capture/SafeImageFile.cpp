@@ -2,7 +2,6 @@
 
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #ifdef Q_OS_UNIX
@@ -16,6 +15,13 @@
 namespace {
 
 constexpr auto temporarySuffix = ".part";
+
+void beginFlush([[maybe_unused]] QFile &file)
+{
+#ifdef Q_OS_LINUX
+    ::sync_file_range(file.handle(), 0, 0, SYNC_FILE_RANGE_WRITE);
+#endif
+}
 
 // False with no reason in the file's own error text means that the disk could not be told.
 bool flushToDisk(QFile &file)
@@ -88,32 +94,38 @@ SafeImageFile::~SafeImageFile()
         QFile::remove(m_temporary);
 }
 
-bool SafeImageFile::write(const QByteArray &bytes, Flush flush)
+bool SafeImageFile::write(const QByteArray &bytes)
 {
-    QFile file(m_temporary);
-    const bool opened = file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
-    if (opened && file.write(bytes) == bytes.size() && (flush == Flush::Later || flushToDisk(file)))
-        return true;
-    const bool known = file.error() != QFileDevice::NoError;
-    m_reason = known ? file.errorString() : tr("The disk is full or does not take the data");
-    return false;
+    m_file.setFileName(m_temporary);
+    if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)
+        || m_file.write(bytes) != bytes.size()) {
+        keepReason();
+        return false;
+    }
+    beginFlush(m_file);
+    return true;
+}
+
+bool SafeImageFile::flush()
+{
+    const bool done = flushToDisk(m_file);
+    if (!done)
+        keepReason();
+    return done;
+}
+
+void SafeImageFile::keepReason()
+{
+    const bool known = m_file.error() != QFileDevice::NoError;
+    m_reason = known ? m_file.errorString() : tr("The disk is full or does not take the data");
 }
 
 SafeImageFile::Placed SafeImageFile::placeAs(const QString &path)
 {
     const Placed placed = giveName(m_temporary, path, m_reason);
-    if (placed == Placed::Done) {
+    if (placed == Placed::Done)
         m_temporary.clear();
-        m_placed = path;
-    }
     return placed;
-}
-
-void SafeImageFile::flushPlaced()
-{
-    QFile file(m_placed);
-    if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
-        flushToDisk(file);
 }
 
 void SafeImageFile::removeLeftovers(const QString &folder)

@@ -2,11 +2,12 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QFile>
 #include <QString>
 
-/// A new file that is either whole and under its name, or not there. The bytes go to a hidden temporary file
-/// in the same folder and to the disk; only then is that given its name, and never in the place of another
-/// file. A killed program leaves at most a temporary file. Any thread.
+/// A new file that is either whole and under its name, or not there: write(), flush(), placeAs(). The bytes
+/// go to a hidden temporary file in the same folder and to the disk; only then is that given its name, and
+/// never in the place of another file. A killed program leaves at most a temporary file. Any thread.
 class SafeImageFile
 {
     Q_DECLARE_TR_FUNCTIONS(SafeImageFile)
@@ -26,17 +27,12 @@ public:
     SafeImageFile(const SafeImageFile &) = delete;
     SafeImageFile &operator=(const SafeImageFile &) = delete;
 
-    enum class Flush {
-        Now,
-        /// By flushPlaced(), for what can be made anew and shall not keep anybody waiting.
-        Later,
-    };
-
-    bool write(const QByteArray &bytes, Flush flush = Flush::Now);
+    /// The disk begins to take the bytes, and goes on while the caller does something else.
+    bool write(const QByteArray &bytes);
+    /// Waits until the disk has them. What can be made anew may get its name before, to keep nobody waiting.
+    bool flush();
     Placed placeAs(const QString &path);
-    /// Brings the placed file to the disk.
-    void flushPlaced();
-    /// Why write() or placeAs() failed, for the user.
+    /// Why a step failed, for the user.
     QString reason() const
     {
         return m_reason;
@@ -46,7 +42,9 @@ public:
     static void removeLeftovers(const QString &folder);
 
 private:
+    void keepReason();
+
+    QFile m_file;
     QString m_temporary;
-    QString m_placed;
     QString m_reason;
 };

@@ -68,21 +68,21 @@ private:
     std::array<uchar, cells> m_atCell{};
 };
 
-QByteArray encoded(const QImage &image, const char *format, int quality, QString &reason)
+} // namespace
+
+FrameSaver::Encoded FrameSaver::encoded(const QImage &image, const char *format, int quality)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
+    Encoded result{{}, QStringLiteral("")};
+    QBuffer buffer(&result.bytes);
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, format);
     writer.setQuality(quality);
     if (!writer.write(image)) {
-        reason = writer.errorString();
-        bytes.clear();
+        result.reason = writer.errorString();
+        result.bytes.clear();
     }
-    return bytes;
+    return result;
 }
-
-} // namespace
 
 QImage FrameSaver::cropped(const QImage &picture, int width, int height)
 {
@@ -150,11 +150,11 @@ void FrameSaver::saveTiff(const QImage &image, const QString &fullPath)
         m_observer.progressAction(tr("Error: Failed to make dir to save TIFF image"));
         return;
     }
-    QString reason;
-    const QByteArray bytes = encoded(image, "TIFF", 100, reason);
+    const QByteArray bytes = encoded(image, "TIFF", 100).bytes;
     const QString path = folder + info.baseName() + QStringLiteral(".tiff");
     SafeImageFile file(path);
-    if (bytes.isEmpty() || !file.write(bytes) || file.placeAs(path) != SafeImageFile::Placed::Done)
+    if (bytes.isEmpty() || !file.write(bytes) || !file.flush()
+        || file.placeAs(path) != SafeImageFile::Placed::Done)
         m_observer.progressAction(tr("Error: Failed to save TIFF image"));
 }
 
@@ -181,23 +181,28 @@ void FrameSaver::saveFiles(const QImage &image, const CaptureRequest &request)
         SafeImageFile::removeLeftovers(m_tidiedFolder);
     }
     Paths paths{request.fullPath, request.tumbPath};
-    const QString reason = saveImage(image, isJpeg, paths);
+    Encoded thumbnail;
+    const QString reason = saveImage(image, isJpeg, paths, thumbnail);
     if (!reason.isNull()) {
         m_observer.progressAction(failed);
         m_observer.imageFailed(reason);
         return;
     }
-    saveThumbnail(image, paths);
+    saveThumbnail(thumbnail, paths);
 }
 
-QString FrameSaver::saveImage(const QImage &image, bool isJpeg, Paths &paths)
+QString FrameSaver::saveImage(const QImage &image, bool isJpeg, Paths &paths, Encoded &thumbnail) const
 {
-    QString reason = QStringLiteral("");
-    const QByteArray bytes = encoded(image, isJpeg ? "JPEG" : "PNG", isJpeg ? 100 : -1, reason);
-    if (bytes.isEmpty())
-        return reason;
+    const Encoded whole = encoded(image, isJpeg ? "JPEG" : "PNG", isJpeg ? 100 : -1);
+    if (whole.bytes.isEmpty())
+        return whole.reason;
     SafeImageFile file(paths.full);
-    if (!file.write(bytes))
+    if (!file.write(whole.bytes))
+        return file.reason();
+    // While the disk takes the image.
+    thumbnail = encoded(image.scaled(thumbnailBounds(), Qt::KeepAspectRatio, Qt::FastTransformation), "jpg",
+                        thumbnailQuality);
+    if (!file.flush())
         return file.reason();
     for (int tried = 0; tried < mostNamesTried; ++tried) {
         // The thumbnail bears the same number and time, so both names have to be free.
@@ -214,19 +219,16 @@ QString FrameSaver::saveImage(const QImage &image, bool isJpeg, Paths &paths)
     return tr("There is a file of this name");
 }
 
-void FrameSaver::saveThumbnail(const QImage &image, const Paths &paths)
+void FrameSaver::saveThumbnail(const Encoded &thumbnail, const Paths &paths)
 {
-    const QImage small = image.scaled(thumbnailBounds(), Qt::KeepAspectRatio, Qt::FastTransformation);
-    QString reason;
-    const QByteArray bytes = encoded(small, "jpg", thumbnailQuality, reason);
     SafeImageFile file(paths.thumb);
-    const bool written = !bytes.isEmpty() && file.write(bytes, SafeImageFile::Flush::Later)
+    const bool written = !thumbnail.bytes.isEmpty() && file.write(thumbnail.bytes)
                          && file.placeAs(paths.thumb) == SafeImageFile::Placed::Done;
     if (written) {
         m_observer.frameSaved(paths.full, paths.thumb);
-        file.flushPlaced();
+        file.flush();
         return;
     }
-    m_observer.thumbnailFailed(bytes.isEmpty() ? reason : file.reason());
+    m_observer.thumbnailFailed(thumbnail.bytes.isEmpty() ? thumbnail.reason : file.reason());
     m_observer.progressAction(tr("Error: Failed to save thumb"));
 }

@@ -61,10 +61,18 @@ private:
         QString full;
         QString thumb;
     };
+    struct Encoded
+    {
+        /// Empty when there is a reason for that.
+        QByteArray bytes;
+        QString reason;
+    };
+    static Encoded encoded(const QImage &image, const char *format, int quality);
     void saveFiles(const QImage &image, const CaptureRequest &request);
-    /// Leaves in `paths` what the files are called. Null when the image is on the disk, else why it is not.
-    QString saveImage(const QImage &image, bool isJpeg, Paths &paths);
-    void saveThumbnail(const QImage &image, const Paths &paths);
+    /// Leaves in `paths` what the files are called, and the thumbnail for them. Null when the image is on the
+    /// disk, else why it is not.
+    QString saveImage(const QImage &image, bool isJpeg, Paths &paths, Encoded &thumbnail) const;
+    void saveThumbnail(const Encoded &thumbnail, const Paths &paths);
     QSize thumbnailBounds() const;
 
     SaveObserver &m_observer;
