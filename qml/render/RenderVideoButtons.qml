@@ -6,6 +6,7 @@ Column {
     id: buttons
 
     required property var scene
+    readonly property alias startButton: start
     readonly property bool rendering: MainWindow.currentRobotJob !== Zum.NoJob
     readonly property bool resized: WebcamGlobal.videoExportPolicy === Zum.ExportPolicyCroppedAndResized
     readonly property size movieSize: resized ? WebcamGlobal.exportSize

@@ -10,6 +10,7 @@ SceneDevices {
     readonly property alias robotMessgModel: messages.robotMessgModel
     readonly property alias dialog: dialogLayer
     readonly property alias popup: popupMessage
+    readonly property alias panes: controlsPanesBox
     readonly property int adding: repainting.width
 
     width: MainWindow.windowSize.width
@@ -190,6 +191,7 @@ SceneDevices {
         anchors.bottom: parent.bottom
         visible: tabRules.statusBarShown
         height: visible ? implicitHeight : 0
+        scene: appWindow
     }
 
     TopLine {
