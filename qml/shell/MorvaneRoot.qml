@@ -72,11 +72,11 @@ SceneDevices {
 
     // The picture's window for a second screen is not part of this version.
     function previewWindow() {
-        tell(Zum.Info, qsTr("This version has no preview window yet."));
+        tell(Zum.Info, qsTr("This version has no preview window yet. F6 shows only the picture."));
     }
 
     function importClipboardImages() {
-        tell(Zum.Info, qsTr("This version cannot import pictures yet."));
+        tell(Zum.Info, qsTr("This version cannot import pictures yet. A camera can play them: add them to the list of devices."));
     }
 
     function projectIsLoaded() {

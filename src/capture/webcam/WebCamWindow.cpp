@@ -367,6 +367,10 @@ void WebCamWindow::takeSizes()
 
 void WebCamWindow::noCamera()
 {
+    if (!connected())
+        emit message(Zum::Info,
+                     tr("Close other programs that use the camera, choose another one in the list of "
+                        "devices, or take the Demo Webcam"));
     emit message(Zum::Error,
                  tr("Camera not present, not connected or not supported. Check hardware connection"));
     takeFirmWare();
