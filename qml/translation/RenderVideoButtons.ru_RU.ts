@@ -20,7 +20,7 @@
     </message>
     <message>
         <source>Nothing to render: the range needs two frames or more. Capture more frames, or drag its ends on the timeline</source>
-        <translation>Нечего создавать: в диапазоне должно быть два кадра или больше. Снимите ещё кадры или раздвиньте концы диапазона на шкале</translation>
+        <translation>Нечего создавать: в диапазоне должно быть два кадра или больше. Снимите ещё кадры или раздвиньте концы диапазона на линейке</translation>
     </message>
     <message>
         <source>Render Video</source>
