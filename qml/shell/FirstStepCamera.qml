@@ -16,6 +16,12 @@ FirstStep {
         connect.forceActiveFocus(Qt.TabFocusReason);
     }
 
+    // The keys go back to the window, for the buttons rest and then are gone.
+    function start(index) {
+        FocusHome.goHome();
+        scene.connectCamera(index);
+    }
+
     function wordsForNow() {
         if (connecting)
             return qsTr("Connecting...");
@@ -59,7 +65,7 @@ FirstStep {
                                         : qsTr("Connect %1").arg(WebcamGlobal.cameraName) + " [F5]"
             toggled: true
             active: !step.connecting
-            onClicked: step.scene.connectCamera(-1)
+            onClicked: step.start(-1)
         }
 
         DialogButton {
@@ -81,7 +87,7 @@ FirstStep {
             icon: "svgicons/star.svg"
             toolTip: qsTr("Connect the built-in camera, which shows a puppet on a stage")
             active: !step.connecting
-            onClicked: step.scene.connectCamera(CameraList.demoIndex)
+            onClicked: step.start(CameraList.demoIndex)
         }
     }
 }

@@ -8,6 +8,11 @@ FocusScope {
     required property var scene
     readonly property bool hasProject: MainWindow.projectLoaded
 
+    // The buttons of a step that was taken are gone.
+    onHasProjectChanged: {
+        if (activeFocus)
+            FocusHome.goHome();
+    }
     Accessible.role: Accessible.List
     Accessible.name: heading.text
 

@@ -3,6 +3,7 @@
 #include "project/PoolProgress.h"
 #include "project/ProjectFrames.h"
 #include "project/ThreadOperation.h"
+#include "shared/MessageCentre.h"
 #include "shared/ProgressState.h"
 
 #include <QElapsedTimer>
