@@ -5,11 +5,6 @@ import Zum 1.0
 CommonCameraControlsPane {
     id: controls
 
-    function useWebCameras() {
-        MainWindow.addSetting("currentCapturingDevice", Zum.CapturingDeviceWebcam);
-        WebcamGlobal.reloadCapturingDevice();
-    }
-
     Component.onCompleted: WebcamGlobal.getCapturingDevicesList()
 
     TextLabel {
@@ -26,6 +21,6 @@ CommonCameraControlsPane {
         icon: "images/webcam.svg"
         text: qsTr("Shoot with a web camera")
         toolTip: qsTr("Change the kind of device to web cameras")
-        onClicked: controls.useWebCameras()
+        onClicked: appWindow.useWebCameras()
     }
 }

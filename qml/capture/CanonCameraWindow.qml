@@ -13,6 +13,7 @@ DeviceDummy {
 
     function connects() {
         message(Zum.Info, qsTr("Connecting..."));
+        message(Zum.Info, qsTr("This version has no driver for DSLR cameras. Choose web cameras as the device type in the settings"));
         message(Zum.Error, qsTr("Camera not present, not connected or not supported. Check hardware connection"));
     }
 

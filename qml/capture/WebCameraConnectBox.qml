@@ -16,11 +16,6 @@ Column {
             WebcamGlobal.capturingDeviceConnect();
     }
 
-    function chooseDevice() {
-        WebcamGlobal.getCapturingDevicesList();
-        appWindow.devSelectDialog();
-    }
-
     spacing: Theme.spacing
 
     Item {
@@ -62,7 +57,7 @@ Column {
             icon: "svgicons/list.svg"
             active: !WebcamGlobal.connected
             toolTip: qsTr("Available devices")
-            onClicked: box.chooseDevice()
+            onClicked: appWindow.chooseCamera()
         }
     }
 

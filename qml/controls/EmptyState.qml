@@ -10,78 +10,58 @@ Item {
     property string text: ""
     default property alias content: buttons.data
 
-    implicitWidth: DefFontSizeNormal_x22
-    implicitHeight: column.implicitHeight + 2 * DefFontSizeNormal
+    implicitWidth: view.implicitWidth
+    implicitHeight: view.implicitHeight
     Accessible.role: Accessible.Grouping
     Accessible.name: title
 
-    Flickable {
-        id: flick
+    CenteredColumn {
+        id: view
 
         anchors.fill: parent
-        contentHeight: column.height + 2 * Theme.padding
-        interactive: contentHeight > height
-        boundsBehavior: Flickable.StopAtBounds
-        clip: interactive
 
-        Column {
-            id: column
+        Icon {
+            anchors.horizontalCenter: parent.horizontalCenter
+            // The picture gives way first when there is little room.
+            icon: state.height > 16 * DefFontSizeNormal ? state.icon : ""
+            size: DefFontSizeNormal_x4
+            opacity: 0.6
+        }
 
-            x: Math.round((flick.width - width) / 2)
-            y: Math.max(Theme.padding, Math.round((flick.height - height) / 2))
-            width: Math.min(flick.width - 2 * Theme.padding, DefFontSizeNormal_x22 + DefFontSizeNormal_x8)
-            spacing: Theme.padding
+        TextLabel {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            font.pixelSize: DefFontSizeBigger
+            text: state.title
+            visible: text !== ""
+            Accessible.role: Accessible.Heading
+        }
 
-            Icon {
-                anchors.horizontalCenter: parent.horizontalCenter
-                // The picture gives way first when there is little room.
-                icon: state.height > 16 * DefFontSizeNormal ? state.icon : ""
-                size: DefFontSizeNormal_x4
-                opacity: 0.6
-            }
+        TextLabel {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            text: state.text
+            dim: true
+            visible: text !== ""
+        }
 
-            TextLabel {
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.Wrap
-                font.pixelSize: DefFontSizeBigger
-                text: state.title
-                visible: text !== ""
-                Accessible.role: Accessible.Heading
-            }
+        Flow {
+            id: buttons
 
-            TextLabel {
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.Wrap
-                text: state.text
-                dim: true
-                visible: text !== ""
-            }
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(wantedWidth(children), parent.width)
+            spacing: Theme.spacing
 
-            Flow {
-                id: buttons
-
-                anchors.horizontalCenter: parent.horizontalCenter
-                width: Math.min(wantedWidth(children), parent.width)
-                spacing: Theme.spacing
-
-                function wantedWidth(items) {
-                    let sum = 0
-                    for (let i = 0; i < items.length; ++i) {
-                        if (items[i].visible)
-                            sum += items[i].width + (sum > 0 ? buttons.spacing : 0)
-                    }
-                    return sum
+            function wantedWidth(items) {
+                let sum = 0
+                for (let i = 0; i < items.length; ++i) {
+                    if (items[i].visible)
+                        sum += items[i].width + (sum > 0 ? buttons.spacing : 0)
                 }
+                return sum
             }
         }
-    }
-
-    Scrollbar {
-        anchors.right: parent.right
-        anchors.top: parent.top
-        anchors.bottom: parent.bottom
-        flickable: flick
     }
 }

@@ -58,6 +58,7 @@ DialogBox {
         visible: items.count === 0
         icon: "svgicons/camera.svg"
         title: qsTr("No Devices")
+        text: dialog.ofCanon ? qsTr("This version has no driver for DSLR cameras. Choose web cameras as the device type in the settings.") : ""
     }
 
     NumberInput4 {

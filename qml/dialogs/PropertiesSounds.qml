@@ -1,6 +1,6 @@
 import QtQuick
 
-// Sounds and tool tips.
+// Sounds, tool tips and the hints at first steps.
 Flow {
     id: group
 
@@ -40,5 +40,14 @@ Flow {
             WebcamGlobal.showToolTips = on;
             MainWindow.addSetting("showToolTips", on);
         }
+    }
+
+    PropertiesCheck {
+        objectName: "firstSteps"
+        width: Math.min(implicitWidth, group.width)
+        caption: qsTranslate("PropertiesDialog", "Hints at first steps")
+        toolTip: qsTranslate("PropertiesDialog", "Lead anew through the first capture, playback and render")
+        checked: !FirstStepsDone.all
+        onSwitched: on => FirstStepsDone.switchHints(on)
     }
 }

@@ -73,23 +73,6 @@ Item {
         }
     }
 
-    EmptyState {
-        anchors.fill: flicker
-        visible: FramesModel.framesCount === 0 && !WebcamGlobal.connected
-        icon: "svgicons/image.svg"
-        title: MainWindow.projName
-        text: qsTr("The project is ready. Connect a camera, pose the puppet and press Enter for each frame.")
-
-        TextButton {
-            objectName: "connectFirst"
-            text: qsTr("Connect")
-            icon: "svgicons/connect.svg"
-            toolTip: qsTr("Connect %1").arg(WebcamGlobal.cameraName) + " [F5]"
-            active: !WebcamGlobal.busy
-            onClicked: WebcamGlobal.capturingDeviceConnect()
-        }
-    }
-
     DisplayOverlay {
         anchors.fill: flicker
     }

@@ -7,6 +7,7 @@ Column {
 
     required property var scene
     property Item footPlace: null
+    readonly property alias startButton: buttons.startButton
 
     objectName: "renderPane"
     spacing: DefFontSizeMicro

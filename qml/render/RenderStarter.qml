@@ -25,7 +25,7 @@ Item {
             MainWindow.breakMorvaRobot("3");
             showProgress();
         } else if (!MainWindow.runMorvaRobot(Zum.RenderVideo)) {
-            scene.tell(Zum.Warning, qsTr("The render could not be started"));
+            scene.tell(Zum.Warning, qsTr("The render could not be started. Wait for the end of the work that runs, and try again"));
             showProgress();
         }
     }

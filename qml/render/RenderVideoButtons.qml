@@ -6,6 +6,7 @@ Column {
     id: buttons
 
     required property var scene
+    readonly property alias startButton: start
     readonly property bool rendering: MainWindow.currentRobotJob !== Zum.NoJob
     readonly property bool resized: WebcamGlobal.videoExportPolicy === Zum.ExportPolicyCroppedAndResized
     readonly property size movieSize: resized ? WebcamGlobal.exportSize
@@ -16,7 +17,7 @@ Column {
 
     function problemText() {
         if (FramesModel.timelineRangeSize === 0)
-            return qsTr("Nothing to render: the range needs two frames or more");
+            return qsTr("Nothing to render: the range needs two frames or more. Capture more frames, or drag its ends on the timeline");
         if (movieSize.width < ExportVideoMinFrameWidth || movieSize.height < ExportVideoMinFrameHeight)
             return qsTr("Minimum frame size is %1x%2").arg(ExportVideoMinFrameWidth).arg(ExportVideoMinFrameHeight);
         if (movieSize.width % 8 !== 0 || movieSize.height % 8 !== 0)

@@ -15,6 +15,11 @@ Rectangle {
     // In a lower one the capture button alone, where something else is still to be seen beside it.
     readonly property bool pinsButton: !roomyToShoot && height > 11 * DefFontSizeNormal
 
+    function goToRender() {
+        if (rendering.item)
+            rendering.item.startButton.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     // Without a project there is nothing to set.
     width: shown && MainWindow.projectLoaded ? Math.min(ControlsPanesBoxW, parent.width * 0.36) : 0
     visible: width > 0
@@ -50,6 +55,8 @@ Rectangle {
 
             // Made when it is first shown.
             Loader {
+                id: rendering
+
                 property bool wanted: false
 
                 width: parent.width

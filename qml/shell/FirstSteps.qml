@@ -1,33 +1,75 @@
 import QtQuick
+import Zum 1.0
 
-// What a view shows while there is no project: the buttons that lead to one.
-Loader {
+// What the Capture tab shows until there is something to see: what to do, in order, with the buttons that do it.
+FocusScope {
     id: firstSteps
 
     required property var scene
-    property string text
+    readonly property bool hasProject: MainWindow.projectLoaded
 
-    sourceComponent: EmptyState {
-        icon: "svgicons/film.svg"
-        title: qsTr("No project")
-        text: firstSteps.text
+    // The buttons of a step that was taken are gone.
+    onHasProjectChanged: {
+        if (activeFocus)
+            FocusHome.goHome();
+    }
+    Accessible.role: Accessible.List
+    Accessible.name: heading.text
 
-        TextButton {
-            text: qsTr("Create New Project")
-            icon: "svgicons/new-project.svg"
-            onClicked: firstSteps.scene.createNewProject()
+    // There are no layers to be gone through yet, so the key for that leads to the buttons.
+    Connections {
+        target: WebcamGlobal
+
+        function onSwitchDisplayTab() {
+            (firstSteps.hasProject ? camera : project).takeFocus();
+        }
+    }
+
+    CenteredColumn {
+        anchors.fill: parent
+
+        TextLabel {
+            id: heading
+
+            width: parent.width
+            wrapMode: Text.Wrap
+            elide: Text.ElideNone
+            font.pixelSize: DefFontSizeBigger
+            text: qsTr("A film in three steps")
+            Accessible.role: Accessible.Heading
         }
 
-        TextButton {
-            text: qsTr("Open Project")
-            icon: "svgicons/open.svg"
-            onClicked: firstSteps.scene.openProject()
-        }
+        Column {
+            width: parent.width
 
-        TextButton {
-            text: qsTr("Recent Projects")
-            icon: "svgicons/recent.svg"
-            onClicked: firstSteps.scene.lastProjects()
+            FirstStepProject {
+                id: project
+
+                objectName: "stepProject"
+                width: parent.width
+                scene: firstSteps.scene
+                done: firstSteps.hasProject
+                present: !done
+            }
+
+            FirstStepCamera {
+                id: camera
+
+                objectName: "stepCamera"
+                width: parent.width
+                scene: firstSteps.scene
+                done: WebcamGlobal.connected
+                present: firstSteps.hasProject && !done
+            }
+
+            FirstStep {
+                objectName: "stepShoot"
+                width: parent.width
+                number: 3
+                last: true
+                title: qsTr("Shoot")
+                text: qsTr("Pose the puppet and press Enter for each frame.")
+            }
         }
     }
 }

@@ -10,6 +10,7 @@ SceneDevices {
     readonly property alias robotMessgModel: messages.robotMessgModel
     readonly property alias dialog: dialogLayer
     readonly property alias popup: popupMessage
+    readonly property alias panes: controlsPanesBox
     readonly property int adding: repainting.width
 
     width: MainWindow.windowSize.width
@@ -71,11 +72,11 @@ SceneDevices {
 
     // The picture's window for a second screen is not part of this version.
     function previewWindow() {
-        tell(Zum.Info, qsTr("This version has no preview window yet."));
+        tell(Zum.Info, qsTr("This version has no preview window yet. F6 shows only the picture."));
     }
 
     function importClipboardImages() {
-        tell(Zum.Info, qsTr("This version cannot import pictures yet."));
+        tell(Zum.Info, qsTr("This version cannot import pictures yet. A camera can play them: add them to the list of devices."));
     }
 
     function projectIsLoaded() {
@@ -190,6 +191,7 @@ SceneDevices {
         anchors.bottom: parent.bottom
         visible: tabRules.statusBarShown
         height: visible ? implicitHeight : 0
+        scene: appWindow
     }
 
     TopLine {

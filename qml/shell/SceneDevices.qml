@@ -37,6 +37,9 @@ SceneCapture {
     // Where the live picture shows. The device itself stays whatever shows, with a camera connected to it.
     property Item liveViewPlace: null
     readonly property alias reloadRunning: reloadPause.running
+    // A camera is to be connected as soon as its kind is loaded: the wanted index, or -1 for the one chosen.
+    property bool cameraWanted: false
+    property int wantedIndex: -1
 
     function loadCapturingPlugin() {
         if (WebcamGlobal.connected)
@@ -67,6 +70,40 @@ SceneCapture {
         reloadPause.start();
     }
 
+    function useWebCameras() {
+        MainWindow.addSetting("currentCapturingDevice", Zum.CapturingDeviceWebcam);
+        reloadCapturingDevice();
+    }
+
+    function chooseCamera() {
+        WebcamGlobal.getCapturingDevicesList();
+        devSelectDialog();
+    }
+
+    // One press from any kind of device to a camera that can be had.
+    function connectCamera(index) {
+        cameraWanted = true;
+        wantedIndex = index;
+        WebcamGlobal.displayTabShowLiveView();
+        if (MainWindow.currentCapturingDevice === Zum.CapturingDeviceCanonEOS)
+            useWebCameras();
+        else if (!reloadPause.running)
+            connectWanted();
+    }
+
+    function connectWanted() {
+        if (!cameraWanted)
+            return;
+        cameraWanted = false;
+        if (WebcamGlobal.connected)
+            return;
+        if (CameraList.rows.length === 0 || wantedIndex >= 0)
+            WebcamGlobal.getCapturingDevicesList();
+        if (wantedIndex >= 0)
+            CameraList.choose(wantedIndex);
+        WebcamGlobal.capturingDeviceConnect();
+    }
+
     DeviceDummy {
         id: dummy
     }
@@ -89,6 +126,7 @@ SceneCapture {
         onTriggered: {
             if (!WebcamGlobal.connected)
                 sceneDevices.loadCapturingPlugin();
+            sceneDevices.connectWanted();
         }
     }
 }

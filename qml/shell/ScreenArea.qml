@@ -56,11 +56,16 @@ Item {
             }
         }
 
-        FirstSteps {
-            anchors.fill: parent
-            active: screenArea.onCapture && !MainWindow.projectLoaded
-            scene: screenArea.scene
-            text: qsTr("Frames that are captured go into a project: one file and a folder beside it.")
+        Loader {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: parent.top
+            height: MainWindow.projectLoaded ? screenArea.roomHeight : parent.height
+            active: screenArea.onCapture
+                    && (!MainWindow.projectLoaded || FramesModel.framesCount === 0 && !WebcamGlobal.connected)
+            sourceComponent: FirstSteps {
+                scene: screenArea.scene
+            }
         }
     }
 
@@ -82,7 +87,7 @@ Item {
             }
         }
 
-        FirstSteps {
+        NoProject {
             anchors.fill: parent
             active: screenArea.onTiming && !MainWindow.projectLoaded
             scene: screenArea.scene

@@ -1,9 +1,10 @@
 import QtQuick
 
-// A line of hints: what a few keys and clicks do on the timeline.
+// A line of hints: what a few keys and clicks do on the timeline, or the first step that is still to be taken.
 Rectangle {
     id: statusBar
 
+    required property var scene
     readonly property var hints: [
         { keys: qsTr("Esc"), text: qsTr("cancel") },
         { keys: qsTr("Ctrl + Left click"), text: qsTr("select a frame") },
@@ -17,9 +18,17 @@ Rectangle {
     color: GlobalDarkerColor
     clip: true
 
+    StepHint {
+        id: stepHint
+
+        anchors.fill: parent
+        scene: statusBar.scene
+    }
+
     Row {
         id: row
 
+        visible: !stepHint.shown
         anchors.verticalCenter: parent.verticalCenter
         x: DefFontSizeNormal_TwoThirds
         spacing: DefFontSizeNormal_Pltr

@@ -11,5 +11,9 @@
         <source>Connecting...</source>
         <translation>Подключение...</translation>
     </message>
+    <message>
+        <source>This version has no driver for DSLR cameras. Choose web cameras as the device type in the settings</source>
+        <translation>В этой версии нет драйвера зеркальных камер. Выберите в настройках тип устройства «Веб-камеры»</translation>
+    </message>
 </context>
 </TS>

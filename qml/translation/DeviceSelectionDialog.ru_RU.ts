@@ -43,6 +43,10 @@
         <translation>Снимать из видеофайла или из пронумерованных изображений</translation>
     </message>
     <message>
+        <source>This version has no driver for DSLR cameras. Choose web cameras as the device type in the settings.</source>
+        <translation>В этой версии нет драйвера зеркальных камер. Выберите в настройках тип устройства «Веб-камеры».</translation>
+    </message>
+    <message>
         <source>Try to set device index manually</source>
         <translation>Попробуйте указать номер устройства вручную</translation>
     </message>
@@ -62,16 +66,16 @@
         <translation>Фильмы и нумерованные изображения</translation>
     </message>
     <message>
-        <source>The file %1 does not exist</source>
-        <translation>Файла %1 нет</translation>
+        <source>The file %1 does not exist. Choose it again in the list of devices</source>
+        <translation>Файла %1 нет. Выберите его заново в списке устройств</translation>
     </message>
     <message>
-        <source>The file %1 is neither a movie nor an image</source>
-        <translation>Файл %1 — не фильм и не изображение</translation>
+        <source>The file %1 is neither a movie nor an image. Choose a movie, or one picture of a numbered sequence</source>
+        <translation>Файл %1 — не фильм и не изображение. Выберите фильм или одну картинку из пронумерованного ряда</translation>
     </message>
     <message>
-        <source>There are too many files in the list of cameras</source>
-        <translation>В списке камер слишком много файлов</translation>
+        <source>There are too many files in the list of cameras. Remove one of them first</source>
+        <translation>В списке камер слишком много файлов. Сначала удалите один из них</translation>
     </message>
 </context>
 </TS>

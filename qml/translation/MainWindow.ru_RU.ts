@@ -28,6 +28,10 @@
         <source>Image file doesn&apos;t exist at %1</source>
         <translation>Нет файла изображения %1</translation>
     </message>
+    <message>
+        <source>Put the missing pictures back into the project&apos;s folder and open the project again, or capture their frames anew</source>
+        <translation>Верните недостающие изображения в папку проекта и откройте проект снова или снимите эти кадры заново</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -128,8 +132,8 @@
         <translation>Файл настроек был повреждён. Он сохранён как %1, а программа запущена с обычными настройками.</translation>
     </message>
     <message>
-        <source>This version cannot import pictures yet.</source>
-        <translation>Эта версия пока не умеет импортировать изображения.</translation>
+        <source>This version cannot import pictures yet. A camera can play them: add them to the list of devices.</source>
+        <translation>Эта версия пока не умеет импортировать изображения. Их может показывать камера: добавьте их в список устройств.</translation>
     </message>
     <message>
         <source>Unable to start %1</source>
@@ -176,11 +180,11 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n file(s) could not be copied or removed</source>
+        <source>%n file(s) could not be copied or removed. Make room on the disk, or check that the folders can be written</source>
         <translation>
-            <numerusform>Не удалось скопировать или удалить %n файл</numerusform>
-            <numerusform>Не удалось скопировать или удалить %n файла</numerusform>
-            <numerusform>Не удалось скопировать или удалить %n файлов</numerusform>
+            <numerusform>Не удалось скопировать или удалить %n файл. Освободите место на диске или проверьте, доступны ли папки для записи</numerusform>
+            <numerusform>Не удалось скопировать или удалить %n файла. Освободите место на диске или проверьте, доступны ли папки для записи</numerusform>
+            <numerusform>Не удалось скопировать или удалить %n файлов. Освободите место на диске или проверьте, доступны ли папки для записи</numerusform>
         </translation>
     </message>
     <message>
@@ -196,8 +200,8 @@
         <translation>«%1» открыт %2 программой с номером %3 на компьютере «%4».</translation>
     </message>
     <message>
-        <source>A project of the older format cannot be imported. Open it first</source>
-        <translation>Проект старого вида нельзя импортировать. Сначала откройте его</translation>
+        <source>A project of the older format cannot be imported. Open it, save it, and import what was saved</source>
+        <translation>Проект старого формата нельзя импортировать. Откройте его, сохраните и импортируйте сохранённый</translation>
     </message>
     <message>
         <source>Add at the End</source>
@@ -212,8 +216,8 @@
         <translation>Ещё идёт другая операция. Откройте проект снова, когда она закончится</translation>
     </message>
     <message>
-        <source>Another project uses the same folder: its pictures were not cleaned up</source>
-        <translation>Той же папкой пользуется другой проект: её изображения не очищены</translation>
+        <source>Another project uses the same folder: its pictures were not cleaned up. Save one of the two under another name first</source>
+        <translation>Той же папкой пользуется другой проект: её изображения не очищены. Сначала сохраните один из двух под другим именем</translation>
     </message>
     <message>
         <source>Cannot create a file when file already exists</source>
@@ -236,8 +240,8 @@
         <translation>Копирование кадров...</translation>
     </message>
     <message>
-        <source>Copying was stopped. Not all pictures of the project are in &apos;%1&apos;</source>
-        <translation>Копирование прервано. В «%1» попали не все изображения проекта</translation>
+        <source>Copying was stopped. Not all pictures of the project are in &apos;%1&apos;. Open the project at its old place and save it under another name again</source>
+        <translation>Копирование остановлено. В «%1» лежат не все изображения проекта. Откройте проект на прежнем месте и снова сохраните его под другим именем</translation>
     </message>
     <message>
         <source>Couldn&apos;t open &apos;%1&apos;</source>
@@ -312,8 +316,8 @@
         <translation>Та программа завершилась, не закрыв его.</translation>
     </message>
     <message>
-        <source>The project is not loaded completely and was not saved</source>
-        <translation>Проект загружен не до конца и не сохранён</translation>
+        <source>The project is not loaded completely and was not saved. Open it again</source>
+        <translation>Проект загружен не полностью и не сохранён. Откройте его снова</translation>
     </message>
     <message>
         <source>Whether it still runs there cannot be told from here.</source>
@@ -334,8 +338,20 @@
 <context>
     <name>ProjectPathCheck</name>
     <message>
+        <source>Allow yourself to read the file, or copy it and its folder to a place of your own</source>
+        <translation>Разрешите себе чтение файла или скопируйте его вместе с папкой в своё место</translation>
+    </message>
+    <message>
         <source>Cannot find project folder &apos;%1&apos;</source>
         <translation>Не найдена папка проекта «%1»</translation>
+    </message>
+    <message>
+        <source>Choose a file whose name ends with .%1</source>
+        <translation>Выберите файл, имя которого кончается на .%1</translation>
+    </message>
+    <message>
+        <source>Look whether its disk is connected and whether it was moved, and open the project again</source>
+        <translation>Проверьте, подключён ли его диск и не перемещён ли файл, и откройте проект снова</translation>
     </message>
     <message>
         <source>Project &apos;%1&apos; is not a file</source>
@@ -354,8 +370,8 @@
         <translation>Файл проекта «%1» нельзя прочитать</translation>
     </message>
     <message>
-        <source>Project folder &apos;%1&apos; does not exist</source>
-        <translation>Папки проекта «%1» нет</translation>
+        <source>The pictures lie in that folder. Put it back beside the project file and open the project again</source>
+        <translation>В этой папке лежат изображения. Верните её на место рядом с файлом проекта и откройте проект снова</translation>
     </message>
 </context>
 <context>
@@ -396,6 +412,10 @@
 <context>
     <name>ProjectReport</name>
     <message>
+        <source>Allow yourself to read the file, or open a copy of it</source>
+        <translation>Разрешите себе чтение файла или откройте его копию</translation>
+    </message>
+    <message>
         <source>Couldn&apos;t open &apos;%1&apos;</source>
         <translation>Не удалось открыть «%1»</translation>
     </message>
@@ -404,8 +424,16 @@
         <translation>Ошибка чтения файла</translation>
     </message>
     <message>
-        <source>The project could not be saved: %1. The file on disk is as it was.</source>
-        <translation>Проект не удалось сохранить: %1. Файл на диске остался прежним.</translation>
+        <source>The file is no project, or one of another version: open it with the program that wrote it</source>
+        <translation>Файл не проект или записан другой версией: откройте его программой, которая его записала</translation>
+    </message>
+    <message>
+        <source>The project could not be saved: %1. The file on disk is as it was. Make room on the disk, or choose a place that can be written.</source>
+        <translation>Проект не удалось сохранить: %1. Файл на диске остался прежним. Освободите место на диске или выберите место, доступное для записи.</translation>
+    </message>
+    <message>
+        <source>The project file is damaged: open a backup of it. The pictures in its folder are as they were</source>
+        <translation>Файл проекта повреждён: откройте его резервную копию. Изображения в его папке остались прежними</translation>
     </message>
 </context>
 <context>
@@ -452,8 +480,8 @@
 <context>
     <name>SettingsFacet</name>
     <message>
-        <source>Cannot open %1</source>
-        <translation>Не удалось открыть %1</translation>
+        <source>Cannot open %1. Open it in a web browser yourself</source>
+        <translation>Не удалось открыть %1. Откройте этот адрес в браузере сами</translation>
     </message>
 </context>
 </TS>

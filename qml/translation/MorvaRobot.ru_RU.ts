@@ -16,6 +16,18 @@
         <translation>Не удалось загрузить %1. Изображение пропущено</translation>
     </message>
     <message>
+        <source>Check that the disk is not full and that the project&apos;s folder can be written, and render again</source>
+        <translation>Проверьте, есть ли место на диске и доступна ли папка проекта для записи, и создайте фильм снова</translation>
+    </message>
+    <message>
+        <source>Choose another format or quality, or switch the video effects off, and render again</source>
+        <translation>Выберите другой формат или качество либо отключите видеоэффекты и создайте фильм снова</translation>
+    </message>
+    <message>
+        <source>Choose another format</source>
+        <translation>Выберите другой формат</translation>
+    </message>
+    <message>
         <source>Encode audio</source>
         <translation>Кодирование звука</translation>
     </message>
@@ -84,12 +96,28 @@
         <translation>Обработка изображений прервана</translation>
     </message>
     <message>
+        <source>Put the picture back into the project&apos;s folder, or capture the frame again in its place</source>
+        <translation>Верните изображение в папку проекта или снимите кадр заново на его месте</translation>
+    </message>
+    <message>
         <source>Scene: %1</source>
         <translation>Сцена: %1</translation>
     </message>
     <message>
         <source>The part of the program that makes movies is missing or damaged. Install the program again. %1</source>
         <translation>Часть программы, которая создаёт фильмы, отсутствует или повреждена. Установите программу заново. %1</translation>
+    </message>
+    <message>
+        <source>Set a larger frame width and height in the Project panel</source>
+        <translation>Задайте большие ширину и высоту кадра на панели «Проект»</translation>
+    </message>
+    <message>
+        <source>Set the frames per second in the Project panel</source>
+        <translation>Задайте число кадров в секунду на панели «Проект»</translation>
+    </message>
+    <message>
+        <source>The bit rate comes with the project&apos;s file: change it there, or import the frames into a new project</source>
+        <translation>Битрейт записан в файле проекта: измените его там или импортируйте кадры в новый проект</translation>
     </message>
     <message>
         <source>This job is not available</source>

@@ -9,22 +9,123 @@
     </message>
 </context>
 <context>
-    <name>FirstSteps</name>
+    <name>FirstStep</name>
+    <message>
+        <source>done</source>
+        <translation>сделано</translation>
+    </message>
+    <message>
+        <source>later</source>
+        <translation>позже</translation>
+    </message>
+    <message>
+        <source>now</source>
+        <translation>сейчас</translation>
+    </message>
+</context>
+<context>
+    <name>FirstStepCamera</name>
+    <message>
+        <source>A web camera, or the built-in demo camera.</source>
+        <translation>Веб-камера или встроенная демонстрационная.</translation>
+    </message>
+    <message>
+        <source>Available devices</source>
+        <translation>Доступные устройства</translation>
+    </message>
+    <message>
+        <source>Change the kind of device to web cameras and connect the first one</source>
+        <translation>Сменить тип устройства на веб-камеры и подключить первую</translation>
+    </message>
+    <message>
+        <source>Choose a Camera</source>
+        <translation>Выбрать камеру</translation>
+    </message>
+    <message>
+        <source>Close other programs that use it, choose another camera, or take the demo camera.</source>
+        <translation>Закройте другие программы, занявшие её, выберите другую камеру или возьмите демонстрационную.</translation>
+    </message>
+    <message>
+        <source>Connect %1</source>
+        <translation>Подключить: %1</translation>
+    </message>
+    <message>
+        <source>Connect a Web Camera</source>
+        <translation>Подключить веб-камеру</translation>
+    </message>
+    <message>
+        <source>Connect a camera</source>
+        <translation>Подключите камеру</translation>
+    </message>
+    <message>
+        <source>Connect the built-in camera, which shows a puppet on a stage</source>
+        <translation>Подключить встроенную камеру: она показывает куклу на сцене</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Подключить</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Подключение...</translation>
+    </message>
+    <message>
+        <source>Demo Camera</source>
+        <translation>Демонстрационная</translation>
+    </message>
+    <message>
+        <source>This version has no driver for DSLR cameras. Shoot with a web camera or with the built-in demo camera.</source>
+        <translation>В этой версии нет драйвера зеркальных камер. Снимайте веб-камерой или встроенной демонстрационной.</translation>
+    </message>
+</context>
+<context>
+    <name>FirstStepProject</name>
+    <message>
+        <source>Choose a name and a place for the project</source>
+        <translation>Выбрать имя и место проекта</translation>
+    </message>
     <message>
         <source>Create New Project</source>
         <translation>Новый проект</translation>
     </message>
     <message>
-        <source>No project</source>
-        <translation>Нет проекта</translation>
+        <source>Create or open a project</source>
+        <translation>Создайте или откройте проект</translation>
+    </message>
+    <message>
+        <source>Frames go into a project: one file and a folder beside it.</source>
+        <translation>Кадры ложатся в проект: это файл и папка рядом с ним.</translation>
     </message>
     <message>
         <source>Open Project</source>
         <translation>Открыть проект</translation>
     </message>
     <message>
+        <source>Open a project file</source>
+        <translation>Открыть файл проекта</translation>
+    </message>
+    <message>
+        <source>Opened last</source>
+        <translation>Открывались недавно</translation>
+    </message>
+    <message>
         <source>Recent Projects</source>
         <translation>Недавние проекты</translation>
+    </message>
+</context>
+<context>
+    <name>FirstSteps</name>
+    <message>
+        <source>A film in three steps</source>
+        <translation>Фильм в три шага</translation>
+    </message>
+    <message>
+        <source>Pose the puppet and press Enter for each frame.</source>
+        <translation>Ставьте куклу и нажимайте Enter для каждого кадра.</translation>
+    </message>
+    <message>
+        <source>Shoot</source>
+        <translation>Снимайте</translation>
     </message>
 </context>
 <context>
@@ -139,16 +240,35 @@
         <translation>Файл с документами не найден, или его нельзя прочитать.</translation>
     </message>
     <message>
-        <source>This version cannot import pictures yet.</source>
-        <translation>Эта версия пока не умеет импортировать изображения.</translation>
+        <source>This version cannot import pictures yet. A camera can play them: add them to the list of devices.</source>
+        <translation>Эта версия пока не умеет импортировать изображения. Их может показывать камера: добавьте их в список устройств.</translation>
     </message>
     <message>
-        <source>This version has no preview window yet.</source>
-        <translation>Окна просмотра в этой версии пока нет.</translation>
+        <source>This version has no preview window yet. F6 shows only the picture.</source>
+        <translation>В этой версии пока нет окна просмотра. F6 оставляет одно изображение.</translation>
     </message>
     <message>
         <source>Titles</source>
         <translation>Заголовки</translation>
+    </message>
+</context>
+<context>
+    <name>NoProject</name>
+    <message>
+        <source>Create New Project</source>
+        <translation>Новый проект</translation>
+    </message>
+    <message>
+        <source>No project</source>
+        <translation>Нет проекта</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Открыть проект</translation>
+    </message>
+    <message>
+        <source>Recent Projects</source>
+        <translation>Недавние проекты</translation>
     </message>
 </context>
 <context>
@@ -272,10 +392,6 @@
 <context>
     <name>ScreenArea</name>
     <message>
-        <source>Frames that are captured go into a project: one file and a folder beside it.</source>
-        <translation>Снятые кадры складываются в проект: один файл и папка рядом с ним.</translation>
-    </message>
-    <message>
         <source>No video</source>
         <translation>Нет видео</translation>
     </message>
@@ -337,6 +453,65 @@
     <message>
         <source>select up to here</source>
         <translation>выделить ряд</translation>
+    </message>
+</context>
+<context>
+    <name>StepHint</name>
+    <message>
+        <source>Capture Frame</source>
+        <translation>Снять кадр</translation>
+    </message>
+    <message>
+        <source>Capture the first frame</source>
+        <translation>Снять первый кадр</translation>
+    </message>
+    <message>
+        <source>Capture the next frame</source>
+        <translation>Снять следующий кадр</translation>
+    </message>
+    <message>
+        <source>Go to the Timing tab and play. Space plays there</source>
+        <translation>Перейти на вкладку «Тайминг» и воспроизвести. Там это делает пробел</translation>
+    </message>
+    <message>
+        <source>Go to the button that makes the movie, on the Timing tab</source>
+        <translation>Перейти к кнопке, которая создаёт фильм, на вкладке «Тайминг»</translation>
+    </message>
+    <message>
+        <source>Make a movie of it</source>
+        <translation>Соберите кадры в фильм</translation>
+    </message>
+    <message>
+        <source>Move the puppet a little and press Enter again</source>
+        <translation>Немного сдвиньте куклу и снова нажмите Enter</translation>
+    </message>
+    <message>
+        <source>No more hints. The settings bring them back</source>
+        <translation>Больше не подсказывать. Вернуть подсказки можно в настройках</translation>
+    </message>
+    <message>
+        <source>Play the range</source>
+        <translation>Воспроизвести диапазон</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Воспроизвести</translation>
+    </message>
+    <message>
+        <source>Pose the puppet and press Enter</source>
+        <translation>Поставьте куклу и нажмите Enter</translation>
+    </message>
+    <message>
+        <source>Render Video</source>
+        <translation>Создать фильм</translation>
+    </message>
+    <message>
+        <source>See it move: the Timing tab plays the frames</source>
+        <translation>Посмотрите на движение: кадры играет вкладка «Тайминг»</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Пробел</translation>
     </message>
 </context>
 <context>

@@ -76,6 +76,10 @@
         <translation>После съёмки новый кадр становится текущим</translation>
     </message>
     <message>
+        <source>Hints at first steps</source>
+        <translation>Подсказки первых шагов</translation>
+    </message>
+    <message>
         <source>Interval</source>
         <translation>Интервал</translation>
     </message>
@@ -86,6 +90,10 @@
     <message>
         <source>Language</source>
         <translation>Язык</translation>
+    </message>
+    <message>
+        <source>Lead anew through the first capture, playback and render</source>
+        <translation>Снова провести через первую съёмку, просмотр и сборку фильма</translation>
     </message>
     <message>
         <source>Lightbox Shows</source>

@@ -4,8 +4,8 @@
 <context>
     <name>RenderStarter</name>
     <message>
-        <source>The render could not be started</source>
-        <translation>Не удалось начать создание фильма</translation>
+        <source>The render could not be started. Wait for the end of the work that runs, and try again</source>
+        <translation>Не удалось начать создание фильма. Дождитесь конца идущей работы и попробуйте снова</translation>
     </message>
 </context>
 <context>
@@ -19,8 +19,8 @@
         <translation>Наименьший размер кадра — %1x%2</translation>
     </message>
     <message>
-        <source>Nothing to render: the range needs two frames or more</source>
-        <translation>Нечего выводить: в диапазоне должно быть не меньше двух кадров</translation>
+        <source>Nothing to render: the range needs two frames or more. Capture more frames, or drag its ends on the timeline</source>
+        <translation>Нечего создавать: в диапазоне должно быть два кадра или больше. Снимите ещё кадры или раздвиньте концы диапазона на линейке</translation>
     </message>
     <message>
         <source>Render Video</source>

@@ -58,12 +58,12 @@
         <translation>Идёт съёмка. Подождите</translation>
     </message>
     <message>
-        <source>The picture could not be saved: %1</source>
-        <translation>Не удалось сохранить снимок: %1</translation>
+        <source>The picture could not be saved: %1. Make room on the disk, or check that the project&apos;s folder can be written, and capture the frame again</source>
+        <translation>Изображение не удалось сохранить: %1. Освободите место на диске или проверьте, доступна ли папка проекта для записи, и снимите кадр снова</translation>
     </message>
     <message>
-        <source>The thumbnail could not be saved: %1</source>
-        <translation>Не удалось сохранить миниатюру: %1</translation>
+        <source>The thumbnail could not be saved: %1. Make room on the disk, or check that the project&apos;s folder can be written, and capture the frame again</source>
+        <translation>Миниатюру не удалось сохранить: %1. Освободите место на диске или проверьте, доступна ли папка проекта для записи, и снимите кадр снова</translation>
     </message>
 </context>
 </TS>

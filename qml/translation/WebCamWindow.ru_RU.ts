@@ -15,6 +15,10 @@
         <translation>Камеры нет, она не подключена или не поддерживается. Проверьте подключение</translation>
     </message>
     <message>
+        <source>Close other programs that use the camera, choose another one in the list of devices, or take the Demo Webcam</source>
+        <translation>Закройте другие программы, занявшие камеру, выберите в списке устройств другую или возьмите Demo Webcam</translation>
+    </message>
+    <message>
         <source>Connecting...</source>
         <translation>Подключение...</translation>
     </message>

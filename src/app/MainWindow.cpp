@@ -193,8 +193,10 @@ void MainWindow::takeDrop(const QList<QUrl> &urls)
             global.setPlayerSource(file.path);
             break;
         case DroppedFile::Kind::Image:
-            controllers().messages.post(Zum::FileMessage, Zum::Info,
-                                        tr("This version cannot import pictures yet."));
+            controllers().messages.post(
+                Zum::FileMessage, Zum::Info,
+                tr("This version cannot import pictures yet. A camera can play them: add "
+                   "them to the list of devices."));
             break;
         case DroppedFile::Kind::Nothing:
             break;

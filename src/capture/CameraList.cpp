@@ -50,6 +50,11 @@ CameraList::CameraList(WebcamGlobal &global, DeviceSelection &devices, Settings 
     });
 }
 
+int CameraList::demoIndex()
+{
+    return CaptureEnvironment::demoIndex;
+}
+
 QString CameraList::nameOf(int index) const
 {
     for (const QVariant &row : m_rows) {

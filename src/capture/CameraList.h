@@ -17,6 +17,8 @@ class CameraList : public QObject
     Q_OBJECT
     /// Maps with "name" (the label), "value" (the index to open), "image", "isize" and "battery".
     Q_PROPERTY(QVariantList rows READ rows NOTIFY rowsChanged)
+    /// The index that opens the built-in camera.
+    Q_PROPERTY(int demoIndex READ demoIndex CONSTANT)
 
 public:
     CameraList(WebcamGlobal &global, DeviceSelection &devices, Settings &settings, QObject *parent = nullptr);
@@ -25,6 +27,7 @@ public:
     {
         return m_rows;
     }
+    static int demoIndex();
     /// The label that stands for an index: its row's, "FireWire Device" for 300, else "Device #" and the
     /// index.
     Q_INVOKABLE QString nameOf(int index) const;

@@ -60,9 +60,12 @@ int FileCameras::insert(const QString &path, bool keep)
     m_error.clear();
     const QFileInfo info(path);
     if (!info.isFile())
-        m_error = tr("The file %1 does not exist").arg(path);
+        m_error = tr("The file %1 does not exist. Choose it again in the list of devices").arg(path);
     else if (!isImage(path) && !isMovie(path))
-        m_error = tr("The file %1 is neither a movie nor an image").arg(info.fileName());
+        m_error =
+            tr("The file %1 is neither a movie nor an image. Choose a movie, or one picture of a numbered "
+               "sequence")
+                .arg(info.fileName());
     if (!m_error.isEmpty())
         return -1;
     const QString absolute = info.absoluteFilePath();
@@ -72,7 +75,7 @@ int FileCameras::insert(const QString &path, bool keep)
     if (place < 0) {
         place = m_paths.indexOf(QString());
         if (place < 0 && m_paths.size() >= most) {
-            m_error = tr("There are too many files in the list of cameras");
+            m_error = tr("There are too many files in the list of cameras. Remove one of them first");
             return -1;
         }
         if (place < 0) {

@@ -42,6 +42,7 @@ void MorvaRobot::openJob(int kind, int total, const QString &name)
     m_handledCount = 0;
     m_writtenCount = 0;
     m_finished = false;
+    m_advice.clear();
     m_jobKind = kind;
     emit progressTotalChanged(total);
     const QString wrapped = name.isEmpty() ? QString() : QStringLiteral(" [ %1 ]").arg(name);
@@ -77,7 +78,7 @@ void MorvaRobot::closeJob()
         result = m_encoder->closeFile();
         if (const QString error = m_encoder->writeError(); !error.isEmpty()) {
             m_finished = false;
-            report(tr("Error creating video") + QStringLiteral(": ") + error);
+            report(tr("Error creating video") + QStringLiteral(": ") + error, adviceForDisk());
         }
         m_encoder.reset();
     }
@@ -91,6 +92,21 @@ void MorvaRobot::closeJob()
 void MorvaRobot::report(const QString &text)
 {
     emit errorStringChanged(text, Zum::Error);
+}
+
+void MorvaRobot::report(const QString &text, const QString &advice)
+{
+    if (!m_advice.contains(advice)) {
+        m_advice.append(advice);
+        emit advised(advice);
+    }
+    report(text);
+}
+
+QString MorvaRobot::adviceForDisk()
+{
+    return tr(
+        "Check that the disk is not full and that the project's folder can be written, and render again");
 }
 
 void MorvaRobot::reportFromEncoder(const QString &text, int level)

@@ -60,6 +60,8 @@ signals:
     void progressActionChanged(const QString &action);
     /// `level` is one of Zum::MessageTypes.
     void errorStringChanged(const QString &text, int level);
+    /// What to do about the error that is told next; once for each job.
+    void advised(const QString &text);
     /// `result` is the path of the file that the job made, or empty.
     void complete(const QString &result, const QStringList &paths);
     void done();
@@ -70,6 +72,8 @@ private:
     void closeJob();
     void refuse(int kind);
     void report(const QString &text);
+    void report(const QString &text, const QString &advice);
+    static QString adviceForDisk();
     void reportFromEncoder(const QString &text, int level);
 
     bool validate(const RenderInput &input);
@@ -92,6 +96,7 @@ private:
     int m_index = 0;
     int m_handledCount = 0;
     int m_writtenCount = 0;
+    QStringList m_advice;
     std::optional<RenderInput> m_renderInput;
     std::shared_ptr<EncoderBase> m_encoder;
 };

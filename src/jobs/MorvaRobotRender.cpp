@@ -39,7 +39,7 @@ void MorvaRobot::renderVideo(WebcamGlobal *global, FramesModel *kadry)
     m_encoder = m_tools.makeEncoder(input.formatName);
     openJob(Zum::RenderVideo, input.rangeSize(), input.fileName);
     if (!morvane::ensureFolder(input.videoFolder)) {
-        report(tr("Cannot cteate dir %1").arg(input.videoFolder));
+        report(tr("Cannot cteate dir %1").arg(input.videoFolder), adviceForDisk());
         closeJob();
         return;
     }
@@ -61,22 +61,24 @@ bool MorvaRobot::validate(const RenderInput &input)
     bool good = true;
     if (input.cropSize.width() < morvane::exportVideoMinFrameWidth
         || input.cropSize.height() < morvane::exportVideoMinFrameHeight) {
-        report(tr("Frame size: %1x%2").arg(input.cropSize.width()).arg(input.cropSize.height()));
+        report(tr("Frame size: %1x%2").arg(input.cropSize.width()).arg(input.cropSize.height()),
+               tr("Set a larger frame width and height in the Project panel"));
         report(tr("Minimum frame size is %1x%2")
                    .arg(morvane::exportVideoMinFrameWidth)
                    .arg(morvane::exportVideoMinFrameHeight));
         good = false;
     }
     if (!(input.fps > 0)) {
-        report(tr("FPS is too low"));
+        report(tr("FPS is too low"), tr("Set the frames per second in the Project panel"));
         good = false;
     }
     if (input.bitrate < minimumBitrate) {
-        report(tr("Bitrate is too low"));
+        report(tr("Bitrate is too low"), tr("The bit rate comes with the project's file: change it there, or "
+                                            "import the frames into a new project"));
         good = false;
     }
     if (good && !m_encoder) {
-        report(tr("No Encoder"));
+        report(tr("No Encoder"), tr("Choose another format"));
         good = false;
     }
     return good;
@@ -101,13 +103,15 @@ bool MorvaRobot::createMovie(const RenderInput &input)
     const QVariant ok = result.value(QStringLiteral("ok"));
     if (m_encoder->isOk() && ok.typeId() == QMetaType::Bool && ok.toBool())
         return true;
+    const QString advice =
+        tr("Choose another format or quality, or switch the video effects off, and render again");
     if (!m_encoder->isOk())
-        report(tr("Error initializing"));
+        report(tr("Error initializing"), advice);
     const QVariant reason = result.value(QStringLiteral("reason"));
     if (reason.typeId() == QMetaType::QString)
-        report(tr("Encoder error: %1").arg(reason.toString()));
+        report(tr("Encoder error: %1").arg(reason.toString()), advice);
     else
-        report(tr("Got an error from encoder, but with no reason"));
+        report(tr("Got an error from encoder, but with no reason"), advice);
     return false;
 }
 
@@ -146,13 +150,14 @@ void MorvaRobot::processFrames(const RenderInput &input)
 bool MorvaRobot::takePicture(const FramePicture &picture)
 {
     for (const QString &text : picture.reports)
-        report(text);
+        report(text,
+               tr("Put the picture back into the project's folder, or capture the frame again in its place"));
     if (picture.outcome == FramePicture::Outcome::Skipped)
         return true;
     if (picture.outcome == FramePicture::Outcome::Lost)
         return false;
     if (m_encoder->encodeImage(picture.image) < 0) {
-        report(tr("Error creating video"));
+        report(tr("Error creating video"), adviceForDisk());
         return false;
     }
     ++m_writtenCount;

@@ -116,6 +116,8 @@ void RobotSupervisor::connectRobot(MorvaRobot &robot)
     connect(&robot, &MorvaRobot::progressCurrentChanged, &progress, &ProgressState::setProgressCurrent);
     connect(&robot, &MorvaRobot::progressActionChanged, &progress, &ProgressState::setProgressAction);
     connect(&robot, &MorvaRobot::errorStringChanged, &m_services.messages, &MessageCentre::reportError);
+    connect(&robot, &MorvaRobot::advised, &m_services.messages,
+            [this](const QString &text) { m_services.messages.advise(Zum::RobotMessage, text); });
     connect(&robot, &MorvaRobot::complete, this, &RobotSupervisor::stopMorvaRobot);
 }
 

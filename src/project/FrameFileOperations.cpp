@@ -3,11 +3,13 @@
 #include "project/PoolProgress.h"
 #include "project/ProjectFrames.h"
 #include "project/ThreadOperation.h"
+#include "shared/MessageCentre.h"
 #include "shared/ProgressState.h"
 
 #include <QElapsedTimer>
 #include <QtConcurrent>
 #include <QtDebug>
+#include <utility>
 
 namespace {
 
@@ -120,6 +122,7 @@ void FrameFileOperations::applySlice()
         ++m_frameIndex;
         m_frames.append(frame);
         FrameFiles::report(frame.missingPaths, m_messages);
+        m_anyMissing = m_anyMissing || !frame.missingPaths.isEmpty();
         if (m_sliceMs == 0)
             break;
     }
@@ -140,6 +143,8 @@ void FrameFileOperations::endAdding(End end)
     m_chunk.clear();
     m_chunkIndex = 0;
     m_frameIndex = 0;
+    if (std::exchange(m_anyMissing, false))
+        m_messages.post(Zum::FileMessage, Zum::Info, FrameFiles::adviceForMissing());
     m_frames.endFill();
     emit framesAdded(end);
 }

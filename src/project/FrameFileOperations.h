@@ -108,4 +108,5 @@ private:
     int m_sliceMs = 8;
     bool m_adding = false;
     bool m_addingCancelled = false;
+    bool m_anyMissing = false;
 };

@@ -52,6 +52,14 @@ bool FrameFiles::pathIsThere(const QString &path)
     return path.isEmpty() || morvane::fileExists(path);
 }
 
+QString FrameFiles::adviceForMissing()
+{
+    return tr(
+        "Put the missing pictures back into the project's folder and open the project again, or capture "
+        "their "
+        "frames anew");
+}
+
 void FrameFiles::report(const QStringList &missingPaths, MessageCentre &messages)
 {
     for (const QString &path : missingPaths) {

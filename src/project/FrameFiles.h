@@ -39,4 +39,6 @@ public:
 
     /// A log line and a warning for each missing path. Main thread.
     static void report(const QStringList &missingPaths, MessageCentre &messages);
+    /// What to do about pictures that are not there.
+    static QString adviceForMissing();
 };

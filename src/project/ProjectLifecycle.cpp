@@ -248,6 +248,9 @@ bool ProjectLifecycle::lockAllows(const QString &path)
 void ProjectLifecycle::warnOfFailures(int failures)
 {
     if (failures > 0)
-        m_services.messages.post(Zum::FileMessage, Zum::Warning,
-                                 tr("%n file(s) could not be copied or removed", nullptr, failures));
+        m_services.messages.post(
+            Zum::FileMessage, Zum::Warning,
+            tr("%n file(s) could not be copied or removed. Make room on the disk, or check that "
+               "the folders can be written",
+               nullptr, failures));
 }

@@ -50,8 +50,8 @@ std::optional<QList<ProjectFrame>> ProjectLifecycle::readImportedFrames(const QS
     if (generation != m_generation || !m_projectLoaded)
         return {};
     if (result.status == ProjectReadResult::Status::Legacy) {
-        m_services.messages.reportError(
-            tr("A project of the older format cannot be imported. Open it first"));
+        m_services.messages.reportError(tr(
+            "A project of the older format cannot be imported. Open it, save it, and import what was saved"));
         return {};
     }
     if (m_report.tell(result, path) != Zum::FileIsOk) {

@@ -88,6 +88,7 @@ int ProjectLifecycle::projectFileOpen(const QString &path)
 int ProjectLifecycle::refuseMissingFile(const QString &path)
 {
     resetProject(Reset::Closing);
+    m_services.messages.advise(Zum::FileMessage, ProjectPathCheck::adviceForMissing());
     m_services.dialogs.warn(tr("Load Project File Problem"), tr("Couldn't open '%1'").arg(path));
     return Zum::FileDoesntExists;
 }
@@ -98,6 +99,7 @@ bool ProjectLifecycle::reportPathProblem(const QString &path)
     if (problem.isEmpty())
         return false;
     MessageCentre &messages = m_services.messages;
+    messages.advise(Zum::RobotMessage, ProjectPathCheck::advice(path));
     messages.reportError(problem);
     messages.post(Zum::RobotMessage, Zum::Error, tr("error loading project"));
     // A total that comes and goes leaves the dialog with the errors on the screen.

@@ -60,7 +60,7 @@ bool ProjectLifecycle::isWritable(int saveMode)
     }
     qDebug("saveProjectXmlFile: Project is not loaded completely. Cannot save");
     m_services.messages.post(Zum::FileMessage, Zum::Warning,
-                             tr("The project is not loaded completely and was not saved"));
+                             tr("The project is not loaded completely and was not saved. Open it again"));
     return false;
 }
 
@@ -219,9 +219,11 @@ void ProjectLifecycle::onProjectCopied(FrameFileOperations::End end, int failure
         return;
     if (end == FrameFileOperations::End::Cancelled) {
         forgetAfterConfirm();
-        m_services.messages.post(Zum::FileMessage, Zum::Warning,
-                                 tr("Copying was stopped. Not all pictures of the project are in '%1'")
-                                     .arg(m_paths.projContntDirPath()));
+        m_services.messages.post(
+            Zum::FileMessage, Zum::Warning,
+            tr("Copying was stopped. Not all pictures of the project are in '%1'. Open the project "
+               "at its old place and save it under another name again")
+                .arg(m_paths.projContntDirPath()));
         return;
     }
     if (endsSave && !m_changedSinceWrite)
@@ -235,9 +237,10 @@ bool ProjectLifecycle::startCleanup(ProjectCleanup::Folders folders)
     const ProjectTree &tree = m_paths.tree();
     if (ProjectCleanup::sharesContentFolder(tree)) {
         folders &= ~(ProjectCleanup::Captured | ProjectCleanup::Reference | ProjectCleanup::Background);
-        m_services.messages.post(
-            Zum::FileMessage, Zum::Warning,
-            tr("Another project uses the same folder: its pictures were not cleaned up"));
+        m_services.messages.post(Zum::FileMessage, Zum::Warning,
+                                 tr("Another project uses the same folder: its pictures were not cleaned up. "
+                                    "Save one of the two under "
+                                    "another name first"));
     }
     m_operationGeneration = m_generation;
     return m_files.cleanup(folders, keep, tree);

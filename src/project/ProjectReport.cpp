@@ -22,17 +22,24 @@ Zum::OpenFileEvents ProjectReport::tell(const ProjectReadResult &result, const Q
                 m_messages.post(Zum::FileMessage, Zum::Warning, refusal);
             break;
         case Status::CannotOpen:
+            m_messages.advise(Zum::FileMessage, tr("Allow yourself to read the file, or open a copy of it"));
             m_dialogs.warn(tr("Load XML File Problem"), tr("Couldn't open '%1'").arg(path));
             qDebug("Failed to read XML file");
             break;
         case Status::NotParsable:
             m_progress.setProgressTotal(100);
+            m_messages.advise(Zum::RobotMessage,
+                              tr("The project file is damaged: open a backup of it. The pictures "
+                                 "in its folder are as they were"));
             m_messages.reportError(result.error, Zum::Error);
             qDebug("Failed to read XML file");
             break;
         case Status::NotAProject:
             if (!result.hasVersion)
                 m_progress.setProgressTotal(100);
+            m_messages.advise(Zum::RobotMessage,
+                              tr("The file is no project, or one of another version: open it with "
+                                 "the program that wrote it"));
             m_messages.reportError(result.error, Zum::Error);
             if (!result.logLine.isEmpty())
                 qDebug().noquote() << result.logLine;
@@ -53,6 +60,8 @@ void ProjectReport::tellSaveFailed(const QString &path, const QString &reason)
         qDebug("Project path is empty. Cannot save");
     else
         qDebug("Failed to open file '%s' for writing", qUtf8Printable(path));
-    m_messages.reportError(
-        tr("The project could not be saved: %1. The file on disk is as it was.").arg(reason));
+    m_messages.reportError(tr("The project could not be saved: %1. The file on disk is as it was. Make room "
+                              "on the disk, or choose a "
+                              "place that can be written.")
+                               .arg(reason));
 }

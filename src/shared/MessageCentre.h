@@ -27,6 +27,13 @@ public:
         emit appendMessage(Zum::RobotMessage, level, text);
     }
 
+    /// Says what to do about the error that is reported next: the lists show the newest message on top, so
+    /// the advice comes to stand below it.
+    void advise(int sender, const QString &text)
+    {
+        post(sender, Zum::Info, text);
+    }
+
     /// Sends a message on without counting it as an error.
     void post(int sender, int type, const QString &text)
     {

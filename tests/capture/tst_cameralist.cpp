@@ -287,7 +287,9 @@ void TestCameraList::filesThatCannotBeUsedAreRefused()
     QFile text(folder->filePath("a.txt"));
     QVERIFY(text.open(QIODevice::WriteOnly));
     QCOMPARE(files.add(text.fileName()), -1);
-    QCOMPARE(files.errorString(), QString("The file a.txt is neither a movie nor an image"));
+    QCOMPARE(files.errorString(),
+             QString("The file a.txt is neither a movie nor an image. Choose a movie, or one picture of a "
+                     "numbered sequence"));
     QVERIFY(files.cameras().isEmpty());
 }
 
@@ -299,7 +301,8 @@ void TestCameraList::thereIsAnEndToFiles()
         const int index = environment->files().add(file.fileName());
         QCOMPARE(index, i < FileCameras::most ? 302 + i : -1);
     }
-    QCOMPARE(environment->files().errorString(), QString("There are too many files in the list of cameras"));
+    QCOMPARE(environment->files().errorString(),
+             QString("There are too many files in the list of cameras. Remove one of them first"));
 }
 
 void TestCameraList::theFileDialog()

@@ -276,7 +276,10 @@ void TestWebCamCapture::aFailedImageTellsWhatFailedAndTheNextShotWorks()
     bench->shoot("no such folder/frame_norm_000000_260101120000.png");
     QTRY_COMPARE(notSaved.size(), 1);
     QTRY_VERIFY(actions.contains("Error: Failed to save processed image"));
-    QVERIFY(bench->told(Zum::Error, "The picture could not be saved: No such file or directory"));
+    QVERIFY(bench->told(
+        Zum::Error,
+        "The picture could not be saved: No such file or directory. Make room on the disk, or check that the "
+        "project's folder can be written, and capture the frame again"));
     QVERIFY(saved.isEmpty() && error.isEmpty());
     bench->shoot();
     QTRY_COMPARE(saved.size(), 1);
@@ -295,7 +298,10 @@ void TestWebCamCapture::aFailedThumbnailLeavesTheImage()
     QTRY_COMPARE(error.size(), 1);
     QVERIFY(bench->told(Zum::Warning, "Failed to receive image from camera"));
     QTRY_VERIFY(actions.contains("Error: Failed to save thumb"));
-    QTRY_VERIFY(bench->told(Zum::Warning, "The thumbnail could not be saved: No such file or directory"));
+    QTRY_VERIFY(bench->told(Zum::Warning,
+                            "The thumbnail could not be saved: No such file or directory. Make room on the "
+                            "disk, or check that the "
+                            "project's folder can be written, and capture the frame again"));
     QVERIFY(!QImage(full()).isNull());
     QVERIFY(saved.isEmpty());
     bench->shoot(QFileInfo(full("10")).fileName(), QFileInfo(thumb("10")).fileName());

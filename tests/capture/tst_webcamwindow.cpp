@@ -603,6 +603,9 @@ void TestWebCamWindow::eventsOfTheSharedVocabulary()
     QVERIFY(bench->told(Zum::Info,
                         "Failed to initialize LiveView. Probably your camera does not support this feature"));
     QVERIFY(bench->told(Zum::Error, WebcamBench::notPresent()));
+    // What to do comes first: the newest message stands on top.
+    QCOMPARE(bench->messages.last().second, WebcamBench::notPresent());
+    QVERIFY(bench->messages.at(bench->messages.size() - 2).second.startsWith("Close other programs"));
     send(1312);
     QVERIFY(bench->told(Zum::Error, "No connection with camera"));
     send(1342);

@@ -29,6 +29,7 @@ private slots:
     void hiddenAndEmptyFramesVanish();
     void onlyHiddenFramesEndAsFinished();
     void pictureThatCannotBeLoadedIsSkipped();
+    void adviceIsGivenOnceAndBeforeItsError();
     void timecodeCountsSkippedPictures();
     void marginsAreReported();
     void cropTooSmall();
@@ -70,6 +71,7 @@ private:
         bool finished = false;
         int written = 0;
         QStringList errors;
+        QStringList advice;
         QStringList actions;
         QList<int> totals;
         QList<int> progress;
@@ -118,6 +120,7 @@ TestMorvaRobot::Run TestMorvaRobot::render(const RenderInput &input, const Robot
     connect(&robot, &MorvaRobot::errorStringChanged, this, [&run](const QString &text, int level) {
         run.errors.append(level == Zum::Error ? text : QStringLiteral("%1 %2").arg(level).arg(text));
     });
+    connect(&robot, &MorvaRobot::advised, this, [&run](const QString &text) { run.advice.append(text); });
     connect(&robot, &MorvaRobot::progressActionChanged, this,
             [&run](const QString &action) { run.actions.append(action); });
     connect(&robot, &MorvaRobot::progressTotalChanged, this, [&run](int total) { run.totals.append(total); });
@@ -218,9 +221,31 @@ void TestMorvaRobot::pictureThatCannotBeLoadedIsSkipped()
     QFile::remove(film.picturePath(1));
     const Run run = render(film.input, fakeTools());
     QCOMPARE(run.errors, QStringList("Cannot load " + film.picturePath(1) + ". Skipping image"));
+    QCOMPARE(run.advice,
+             QStringList("Put the picture back into the project's folder, or capture the frame again "
+                         "in its place"));
     QCOMPARE(record.pictures.size(), 2);
     QCOMPARE(run.progress, (QList<int>{1, 1, 2}));
     QVERIFY(run.finished);
+}
+
+void TestMorvaRobot::adviceIsGivenOnceAndBeforeItsError()
+{
+    const SmallFilm film({0, 1, 2});
+    QFile::remove(film.picturePath(0));
+    QFile::remove(film.picturePath(2));
+    MorvaRobot robot(Zum::RenderVideo, Zum::NoTarget, film.input.videoFolder + "../", "project", fakeTools());
+    QStringList told;
+    connect(&robot, &MorvaRobot::advised, this, [&told] { told.append("advice"); });
+    connect(&robot, &MorvaRobot::errorStringChanged, this, [&told] { told.append("error"); });
+    robot.setRenderInput(film.input);
+    robot.renderVideo(nullptr, nullptr);
+    QCOMPARE(told, (QStringList{"advice", "error", "error"}));
+    // Another job says it anew.
+    told.clear();
+    robot.setRenderInput(film.input);
+    robot.renderVideo(nullptr, nullptr);
+    QCOMPARE(told, (QStringList{"advice", "error", "error"}));
 }
 
 void TestMorvaRobot::timecodeCountsSkippedPictures()
@@ -252,6 +277,7 @@ void TestMorvaRobot::cropTooSmall()
     film.input.cropSize = QSize(319, 280);
     const Run run = render(film.input, fakeTools());
     QCOMPARE(run.errors, (QStringList{"Frame size: 319x280", "Minimum frame size is 320x280"}));
+    QCOMPARE(run.advice, QStringList("Set a larger frame width and height in the Project panel"));
     QVERIFY(record.createArguments.isEmpty());
     QCOMPARE(run.completed, 1);
     QVERIFY(!run.finished);
@@ -281,6 +307,12 @@ void TestMorvaRobot::allChecksReport()
     const Run run = render(film.input, fakeTools());
     QCOMPARE(run.errors, (QStringList{"Frame size: 320x279", "Minimum frame size is 320x280",
                                       "FPS is too low", "Bitrate is too low"}));
+    QCOMPARE(run.advice,
+             (QStringList{
+                 "Set a larger frame width and height in the Project panel",
+                 "Set the frames per second in the Project panel",
+                 "The bit rate comes with the project's file: change it there, or import the frames into a "
+                 "new project"}));
     QCOMPARE(run.completed, 1);
     QCOMPARE(run.done, 1);
 }
@@ -293,6 +325,7 @@ void TestMorvaRobot::noEncoder()
     };
     const Run run = render(SmallFilm({0}).input, tools);
     QCOMPARE(run.errors, QStringList("No Encoder"));
+    QCOMPARE(run.advice, QStringList("Choose another format"));
     QCOMPARE(run.completed, 1);
 }
 
@@ -302,6 +335,9 @@ void TestMorvaRobot::encoderThatIsNotReady()
     record.answer = {{"ok", false}, {"reason", "No room"}};
     const Run run = render(SmallFilm({0}).input, fakeTools());
     QCOMPARE(run.errors, (QStringList{"Error initializing", "Encoder error: No room"}));
+    QCOMPARE(run.advice,
+             QStringList("Choose another format or quality, or switch the video effects off, and render "
+                         "again"));
     QVERIFY(record.pictures.isEmpty());
 }
 
@@ -341,6 +377,9 @@ void TestMorvaRobot::writeErrorAtTheEndIsReported()
     record.writeError = "No space left";
     const Run run = render(SmallFilm({0}).input, fakeTools());
     QCOMPARE(run.errors, QStringList("Error creating video: No space left"));
+    QCOMPARE(run.advice,
+             QStringList("Check that the disk is not full and that the project's folder can be written, "
+                         "and render again"));
     QVERIFY(!run.finished);
 }
 

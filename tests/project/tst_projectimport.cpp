@@ -137,7 +137,7 @@ void TestProjectImport::importOfALegacyProjectIsRefused()
     QVERIFY(QDir().mkpath(world.path("old_files")));
     world.dialogs.pathAnswers.append(world.path("old.kzfx"));
     QVERIFY(!world.life.importFrames());
-    QVERIFY(world.hasSaid("older format cannot be imported", Zum::Error));
+    QVERIFY(world.hasSaid("older format cannot be imported. Open it, save it", Zum::Error));
     QVERIFY(!world.life.legacyProject());
 }
 
@@ -192,7 +192,7 @@ void TestProjectImport::aMissingPictureDoesNotStopTheImport()
     QTRY_VERIFY(world.life.projectLoaded());
     QCOMPARE(world.model.framesCount(), 3);
     QVERIFY(world.model.frameAt(0).capfullmiss);
-    QVERIFY(world.hasSaid("could not be copied", Zum::Warning));
+    QVERIFY(world.hasSaid("could not be copied or removed. Make room on the disk", Zum::Warning));
 }
 
 void TestProjectImport::cancelDuringTheCopyAddsNothing()

@@ -167,6 +167,7 @@ void TestProjectOpening::aMissingFileClosesTheOpenProject()
     QCOMPARE(world.life.projectFileOpen(missing), int(Zum::FileDoesntExists));
     QCOMPARE(world.dialogs.asked.last().caption, QStringLiteral("Load Project File Problem"));
     QCOMPARE(world.dialogs.asked.last().start, "Couldn't open '" + missing + "'");
+    QVERIFY(world.hasSaid("Look whether its disk is connected", Zum::Info));
     QVERIFY(!world.life.projectLoaded());
     QVERIFY(!world.model.loaded());
     QCOMPARE(world.paths.projPath(), QString());
@@ -189,13 +190,17 @@ void TestProjectOpening::problemsOfThePathChangeNothing_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("advice");
+    const QString putBack = QStringLiteral("Put it back beside the project file");
     QTest::newRow("suffix") << "q.txt"
                             << "q_files"
-                            << "Project file '%1' has unrecognized suffix 'txt'";
-    QTest::newRow("content folder deleted") << "q.kzfx" << QString() << "Cannot find project folder '%2'";
+                            << "Project file '%1' has unrecognized suffix 'txt'"
+                            << "Choose a file whose name ends with .kzfx";
+    QTest::newRow("content folder deleted")
+        << "q.kzfx" << QString() << "Cannot find project folder '%2'" << putBack;
     QTest::newRow("folder of the first dot does not count") << "q.a.kzfx"
                                                             << "q_files"
-                                                            << "Cannot find project folder '%2'";
+                                                            << "Cannot find project folder '%2'" << putBack;
 }
 
 void TestProjectOpening::problemsOfThePathChangeNothing()
@@ -203,6 +208,7 @@ void TestProjectOpening::problemsOfThePathChangeNothing()
     QFETCH(const QString, name);
     QFETCH(const QString, folder);
     QFETCH(const QString, text);
+    QFETCH(const QString, advice);
     ProjectWorld world;
     QVERIFY(world.createProject("p.kzfx"));
     ProjectWorld::writeFile(world.path(name));
@@ -214,6 +220,7 @@ void TestProjectOpening::problemsOfThePathChangeNothing()
     QCOMPARE(world.messages.errorString(), expected);
     QCOMPARE(world.messages.robotErrorCount(), 1);
     QVERIFY(world.hasSaid("error loading project"));
+    QVERIFY(world.hasSaid(advice, Zum::Info));
     QVERIFY(world.life.projectLoaded());
     QCOMPARE(world.paths.projPath(), world.path("p.kzfx"));
     QCOMPARE(world.progress.progressTotal(), 0);
@@ -372,7 +379,9 @@ void TestProjectOpening::missingPicturesAreReportedOneByOne()
     QVERIFY(QFile::remove(missing));
     QTest::ignoreMessage(QtDebugMsg, qPrintable("File doesn't exist at " + missing));
     QVERIFY(world.open(path));
-    QCOMPARE(world.said.size(), 1);
+    QCOMPARE(world.said.size(), 2);
+    QVERIFY(world.said.last().text.startsWith("Put the missing pictures back"));
+    QCOMPARE(world.said.last().type, int(Zum::Info));
     QCOMPARE(world.said.first().sender, int(Zum::FileMessage));
     QCOMPARE(world.said.first().type, int(Zum::Warning));
     QCOMPARE(world.said.first().text, "Image file doesn't exist at " + missing);

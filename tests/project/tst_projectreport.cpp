@@ -63,6 +63,7 @@ private slots:
         QCOMPARE(m_dialogs.asked.size(), 1);
         QCOMPARE(m_dialogs.asked.first().caption, u"Load XML File Problem"_s);
         QCOMPARE(m_dialogs.asked.first().start, u"Couldn't open '/x/p.kzfx'"_s);
+        QVERIFY(m_sent.first().at(2).toString().contains(u"open a copy of it"_s));
         QCOMPARE(m_progress->progressTotal(), 0);
     }
 
@@ -72,8 +73,11 @@ private slots:
         QCOMPARE(tell(failure(Status::NotParsable, u"bad at line 1, column 2"_s)), Zum::FileXMLunparseble);
         QCOMPARE(m_progress->progressTotal(), 100);
         QCOMPARE(m_messages->errorString(), u"bad at line 1, column 2"_s);
-        QCOMPARE(m_sent.size(), 1);
-        QCOMPARE(m_sent.first().at(1).toInt(), int(Zum::Error));
+        QCOMPARE(m_sent.size(), 2);
+        QCOMPARE(m_sent.first().at(1).toInt(), int(Zum::Info));
+        QVERIFY(m_sent.first().at(2).toString().contains(u"open a backup of it"_s));
+        QCOMPARE(m_sent.last().at(1).toInt(), int(Zum::Error));
+        QCOMPARE(m_messages->robotErrorCount(), 1);
     }
 
     void foreignFileIsReportedAndLogged()
@@ -85,6 +89,7 @@ private slots:
         QCOMPARE(tell(result), Zum::NotMorvaneFile);
         QCOMPARE(m_messages->errorString(), u"Unrecognized project version (3)"_s);
         QCOMPARE(m_messages->robotErrorCount(), 1);
+        QVERIFY(m_sent.first().at(2).toString().contains(u"open it with the program that wrote it"_s));
         QCOMPARE(m_progress->progressTotal(), 0);
     }
 
@@ -118,6 +123,7 @@ private slots:
         report.tellSaveFailed(u"/x/p.kzfx"_s, u"No space left on device"_s);
         QCOMPARE(m_sent.size(), 1);
         QVERIFY(m_sent.first().at(2).toString().contains(u"No space left on device"_s));
+        QVERIFY(m_sent.first().at(2).toString().contains(u"Make room on the disk"_s));
         QTest::ignoreMessage(QtDebugMsg, "Project path is empty. Cannot save");
         report.tellSaveFailed(QString(), u"No file name"_s);
     }

@@ -301,7 +301,7 @@ void TestProjectSaving::aProjectThatIsNotCompletelyLoadedIsNeverWritten()
     QVERIFY(!world.life.saveProjectXmlFile(Zum::SaveProjectXMLonly));
     QVERIFY(!world.life.saveProjectXmlFile(Zum::SaveProject));
     QCOMPARE(ProjectWorld::fileBytes(path), before);
-    QVERIFY(world.hasSaid("not loaded completely", Zum::Warning));
+    QVERIFY(world.hasSaid("not loaded completely and was not saved. Open it again", Zum::Warning));
 }
 
 void TestProjectSaving::saveAsCopiesTheProjectAndMovesThere()
@@ -422,6 +422,7 @@ void TestProjectSaving::cancelDuringSaveAsTellsAndStaysDirty()
     world.life.stopLoadingProject();
     QVERIFY(world.waitFree());
     QVERIFY(world.hasSaid("Copying was stopped", Zum::Warning));
+    QVERIFY(world.hasSaid("Open the project at its old place", Zum::Warning));
     QVERIFY(world.global.projectChanged());
     QVERIFY(QFile::exists(old.capFullDirPath + ProjectWorld::frameName(0)));
 }

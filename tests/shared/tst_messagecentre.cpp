@@ -14,6 +14,7 @@ private slots:
     void sameErrorTwiceCountsTwice();
     void countIsUpToDateWhenTheMessageComes();
     void postedMessageIsNotCounted();
+    void adviceIsAMessageAndNoError();
 };
 
 void TestMessageCentre::startsWithoutErrors()
@@ -79,6 +80,17 @@ void TestMessageCentre::postedMessageIsNotCounted()
     messages.post(Zum::FileMessage, Zum::Info, QStringLiteral("Project loaded"));
     QCOMPARE(sent.first(), (QVariantList{static_cast<int>(Zum::FileMessage), static_cast<int>(Zum::Info),
                                          QStringLiteral("Project loaded")}));
+    QCOMPARE(messages.robotErrorCount(), 0);
+    QCOMPARE(messages.errorString(), QString());
+}
+
+void TestMessageCentre::adviceIsAMessageAndNoError()
+{
+    MessageCentre messages;
+    QSignalSpy sent(&messages, &MessageCentre::appendMessage);
+    messages.advise(Zum::RobotMessage, QStringLiteral("try again"));
+    QCOMPARE(sent.first(), (QVariantList{static_cast<int>(Zum::RobotMessage), static_cast<int>(Zum::Info),
+                                         QStringLiteral("try again")}));
     QCOMPARE(messages.robotErrorCount(), 0);
     QCOMPARE(messages.errorString(), QString());
 }

@@ -192,7 +192,8 @@ void SettingsFacet::openInDefaultBrowser(const QString &url)
 void SettingsFacet::openAddress(const QString &url)
 {
     if (!controllers().environment.desktop->openUrl(QUrl::fromUserInput(url)))
-        controllers().messages.post(Zum::CommonMessage, Zum::Warning, tr("Cannot open %1").arg(url));
+        controllers().messages.post(Zum::CommonMessage, Zum::Warning,
+                                    tr("Cannot open %1. Open it in a web browser yourself").arg(url));
 }
 
 QString SettingsFacet::openFileDialog(int filterType)

@@ -272,14 +272,21 @@ void WebCamLiveViewThread::frameSaved(const QString &fullPath, const QString &tu
 void WebCamLiveViewThread::thumbnailFailed(const QString &reason)
 {
     if (!reason.isEmpty())
-        postToWindow(WebCamEvent::Warning, tr("The thumbnail could not be saved: %1").arg(reason));
+        postToWindow(
+            WebCamEvent::Warning,
+            tr("The thumbnail could not be saved: %1. Make room on the disk, or check that the project's "
+               "folder can be written, and capture the frame again")
+                .arg(reason));
     m_requests.finishCurrent();
     postToWindow(WebCamEvent::ThumbnailFailed, {}, 1);
 }
 
 void WebCamLiveViewThread::imageFailed(const QString &reason)
 {
-    const QString text = tr("The picture could not be saved: %1").arg(reason);
+    const QString text =
+        tr("The picture could not be saved: %1. Make room on the disk, or check that the project's "
+           "folder can be written, and capture the frame again")
+            .arg(reason);
     m_requests.finishCurrent();
     postToWindow(WebCamEvent::FrameFailed, text, 1);
 }

@@ -367,6 +367,10 @@ void WebCamWindow::takeSizes()
 
 void WebCamWindow::noCamera(const QString &loadError)
 {
+    if (!connected())
+        emit message(Zum::Info,
+                     tr("Close other programs that use the camera, choose another one in the list of "
+                        "devices, or take the Demo Webcam"));
     emit message(Zum::Error,
                  loadError.isEmpty()
                      ? tr("Camera not present, not connected or not supported. Check hardware connection")

@@ -327,6 +327,8 @@ void TestCaptureDevices::dslrKindSaysThatNoCameraIsThere()
     QCOMPARE(
         shell.told("Camera: Camera not present, not connected or not supported. Check hardware connection"),
         1);
+    QCOMPARE(shell.told("no driver for DSLR cameras. Choose web cameras as the device type in the settings"),
+             1);
     QVERIFY(!shell.global().connected());
     QVERIFY(!shell.control("captureButton")->property("active").toBool());
     QCOMPARE(shell.sceneWarnings(), QStringList());

@@ -24,6 +24,7 @@ private slots:
     void warnsBeforeClearingTheSettings();
     void switchesAndStores_data();
     void switchesAndStores();
+    void leadsAnewThroughTheFirstSteps();
     void storesTheMinutesOfInactivity();
     void limitsTheMinutesOfInactivity();
     void storesTheAutosaveInterval();
@@ -100,6 +101,7 @@ void TestPropertiesDialog::hasItsControlsInOrder()
                                "Sounds",
                                "Beep on capture",
                                "Tooltips",
+                               "Hints at first steps",
                                "Font Size",
                                "Auto",
                                "0",
@@ -250,6 +252,14 @@ void TestPropertiesDialog::switchesAndStores()
         QCOMPARE(owner->property(property.constData()).toBool(), wanted);
         QCOMPARE(settings().boolean(key, !wanted), wanted);
     }
+}
+
+void TestPropertiesDialog::leadsAnewThroughTheFirstSteps()
+{
+    d->click(d->textItem("Hints at first steps"));
+    QCOMPARE(settings().value("firstStepsDone").toInt(), 3);
+    d->click(d->textItem("Hints at first steps"));
+    QCOMPARE(settings().value("firstStepsDone").toInt(), 0);
 }
 
 void TestPropertiesDialog::storesTheMinutesOfInactivity()

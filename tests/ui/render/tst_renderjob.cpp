@@ -197,7 +197,8 @@ void TestRenderJob::startThatIsRefusedLeavesNoDialog()
     robot.setMorvaRobotThreadStarted(true);
     QTRY_COMPARE(w->dialogFile(), QString());
     robot.setMorvaRobotThreadStarted(false);
-    QVERIFY(w->shell().messages().join(' ').contains("The render could not be started"));
+    QVERIFY(w->shell().messages().join(' ').contains(
+        "The render could not be started. Wait for the end of the work that runs"));
 }
 
 void TestRenderJob::pressDuringAJobBreaksIt()
@@ -336,6 +337,9 @@ void TestRenderJob::errorsKeepTheDialogAndAreListed()
     const QStringList texts = dialogTexts();
     QVERIFY(texts.contains("Completed"));
     QVERIFY2(texts.contains("Robot: Cannot load " + lost + ". Skipping image"), qPrintable(texts.join('\n')));
+    // What to do about it stands below it.
+    const qsizetype told = texts.indexOf("Robot: Cannot load " + lost + ". Skipping image");
+    QVERIFY2(texts.value(told + 1).contains("capture the frame again"), qPrintable(texts.join('\n')));
     QVERIFY(texts.contains("View Video"));
     QCOMPARE(stream(movie("videotest.avi"), "v")["nb_read_frames"].toString(), "11");
     w->click("close");

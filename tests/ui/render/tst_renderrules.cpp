@@ -170,8 +170,10 @@ void TestRenderRules::problemsAreNamed_data()
     const int crop = Zum::ExportPolicyCropped;
     const int scale = Zum::ExportPolicyCroppedAndResized;
     QTest::newRow("none") << QSize(1280, 720) << crop << 11 << "";
-    QTest::newRow("no range") << QSize(1280, 720) << crop << 0
-                              << "Nothing to render: the range needs two frames or more";
+    QTest::newRow("no range")
+        << QSize(1280, 720) << crop << 0
+        << "Nothing to render: the range needs two frames or more. Capture more frames, or "
+           "drag its ends on the timeline";
     QTest::newRow("too narrow") << QSize(312, 720) << crop << 11 << "Minimum frame size is 320x280";
     QTest::newRow("too low") << QSize(1280, 272) << crop << 11 << "Minimum frame size is 320x280";
     QTest::newRow("the least there may be") << QSize(320, 280) << crop << 11 << "";
