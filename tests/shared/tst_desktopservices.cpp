@@ -6,21 +6,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// Takes the addresses that would otherwise open a program of the desktop.
-class UrlCatcher : public QObject
-{
-    Q_OBJECT
-
-public:
-    QList<QUrl> urls;
-
-public slots:
-    void open(const QUrl &url)
-    {
-        urls.append(url);
-    }
-};
-
 class TestDesktopServices : public QObject
 {
     Q_OBJECT

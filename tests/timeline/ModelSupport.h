@@ -1,16 +1,20 @@
 #pragma once
 
 #include "support/HandTicker.h"
+<<<<<<< HEAD
+=======
+#include "support/LogLines.h"
+#include "support/RowsOnly.h"
+>>>>>>> 13788cf (Keep what tests share once, part long ones by concern, and run those that root skipped)
 #include "timeline/FramesModel.h"
 
-#include <mutex>
 #include <QAbstractItemModelTester>
-#include <QIdentityProxyModel>
 #include <QSignalSpy>
 #include <QStringList>
 #include <QTest>
 #include <utility>
 
+<<<<<<< HEAD
 /// The model's role numbers start at 0 and overlap the toolkit's own, whose types the model tester checks:
 /// this proxy shows the rows without their values.
 class RowsOnly : public QIdentityProxyModel
@@ -26,6 +30,8 @@ public:
     }
 };
 
+=======
+>>>>>>> 13788cf (Keep what tests share once, part long ones by concern, and run those that root skipped)
 /// A frames model that runs by hand, watched by the model tester. Batches take a step a turn of the event
 /// loop; playback ticks by hand.
 class TestModel : public FramesModel
@@ -93,39 +99,6 @@ private:
 
     RowsOnly m_rows;
     QAbstractItemModelTester m_tester{&m_rows, QAbstractItemModelTester::FailureReportingMode::QtTest};
-};
-
-/// Collects log lines instead of printing them, for as long as it lives.
-class LogLines
-{
-public:
-    LogLines()
-    {
-        s_lines = this;
-        m_previous = qInstallMessageHandler(&LogLines::receive);
-    }
-    ~LogLines()
-    {
-        qInstallMessageHandler(m_previous);
-        s_lines = nullptr;
-    }
-    QStringList take()
-    {
-        const std::lock_guard lock(m_mutex);
-        return std::exchange(m_texts, {});
-    }
-
-private:
-    static void receive(QtMsgType, const QMessageLogContext &, const QString &text)
-    {
-        const std::lock_guard lock(s_lines->m_mutex);
-        s_lines->m_texts.append(text.trimmed());
-    }
-
-    inline static LogLines *s_lines = nullptr;
-    std::mutex m_mutex;
-    QStringList m_texts;
-    QtMessageHandler m_previous = nullptr;
 };
 
 /// Writes the names of signals into one list, to see their order.
