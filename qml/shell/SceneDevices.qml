@@ -36,7 +36,6 @@ SceneCapture {
     readonly property alias deviceDummy: dummy
     // Where the live picture shows. The device itself stays whatever shows, with a camera connected to it.
     property Item liveViewPlace: null
-    readonly property alias reloadRunning: reloadPause.running
 
     function loadCapturingPlugin() {
         if (WebcamGlobal.connected)
@@ -74,8 +73,6 @@ SceneCapture {
     DeviceList {}
 
     Loader {
-        id: deviceHolder
-
         parent: sceneDevices.liveViewPlace ? sceneDevices.liveViewPlace : sceneDevices
         anchors.centerIn: parent
         visible: sceneDevices.liveViewPlace !== null

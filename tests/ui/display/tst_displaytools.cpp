@@ -396,13 +396,13 @@ void TestDisplayTools::referenceSizeIsSet()
 void TestDisplayTools::zoomIsChosen()
 {
     open("Zoom");
-    m_film->click(inPanel("toolTip", "Larger [Wheel]"));
+    m_film->click(inPanel("toolTip", "Zoom in [Wheel]"));
     QCOMPARE(global().camScaleFactor(), 1.2);
-    m_film->click(inPanel("toolTip", "Smaller [Wheel]"));
+    m_film->click(inPanel("toolTip", "Zoom out [Wheel]"));
     QCOMPARE(global().camScaleFactor(), 1.0);
     m_film->click(inPanel("text", "Pixels"));
     QCOMPARE(global().camScaleFactor(), 1 / global().coordSystemScale());
-    m_film->click(inPanel("text", "Fit"));
+    m_film->click(inPanel("toolTip", "Show the whole picture [Double click]"));
     QCOMPARE(global().camScaleFactor(), 1.0);
 }
 
