@@ -1,5 +1,6 @@
 #include "shared/desktop/FreeDesktopServices.h"
 #include "shared/desktop/WindowsDesktopServices.h"
+#include "UrlCatcher.h"
 
 #include <QDBusConnection>
 #include <QDesktopServices>

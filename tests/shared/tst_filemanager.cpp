@@ -1,4 +1,5 @@
 #include "shared/desktop/FreeDesktopServices.h"
+#include "UrlCatcher.h"
 
 #include <QDBusConnection>
 #include <QDBusContext>
