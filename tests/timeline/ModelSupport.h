@@ -1,11 +1,8 @@
 #pragma once
 
 #include "support/HandTicker.h"
-<<<<<<< HEAD
-=======
 #include "support/LogLines.h"
 #include "support/RowsOnly.h"
->>>>>>> 13788cf (Keep what tests share once, part long ones by concern, and run those that root skipped)
 #include "timeline/FramesModel.h"
 
 #include <QAbstractItemModelTester>
@@ -14,24 +11,6 @@
 #include <QTest>
 #include <utility>
 
-<<<<<<< HEAD
-/// The model's role numbers start at 0 and overlap the toolkit's own, whose types the model tester checks:
-/// this proxy shows the rows without their values.
-class RowsOnly : public QIdentityProxyModel
-{
-    Q_OBJECT
-
-public:
-    using QIdentityProxyModel::QIdentityProxyModel;
-
-    QVariant data(const QModelIndex &, int) const override
-    {
-        return {};
-    }
-};
-
-=======
->>>>>>> 13788cf (Keep what tests share once, part long ones by concern, and run those that root skipped)
 /// A frames model that runs by hand, watched by the model tester. Batches take a step a turn of the event
 /// loop; playback ticks by hand.
 class TestModel : public FramesModel
