@@ -30,8 +30,6 @@ DialogPane {
     }
 
     TextLabel {
-        id: longHeading
-
         width: parent.width
         visible: !box.headingFits
         font.pixelSize: DefFontSizeBigger

@@ -19,7 +19,6 @@ Item {
     readonly property alias captured: bigCapturedPicBox
     readonly property alias reference: bigReferencePicBox
     readonly property alias stack: onionSkin
-    readonly property alias flipFlopRunner: flipFlop
 
     // The place of each layer from below, 0 to 2.
     readonly property int liveZ: onCaptured ? 0 : onReference ? 1 : 2

@@ -9,7 +9,6 @@ Item {
     property bool checked: false
     property real lineOpacity: 0.8
     property bool hasOpacity: true
-    readonly property real nameWidth: Math.min(check.implicitWidth, width)
 
     signal switched(bool checked)
     signal opacityMoved(real value)

@@ -36,7 +36,6 @@ SceneCapture {
     readonly property alias deviceDummy: dummy
     // Where the live picture shows. The device itself stays whatever shows, with a camera connected to it.
     property Item liveViewPlace: null
-    readonly property alias reloadRunning: reloadPause.running
     // A camera is to be connected as soon as its kind is loaded: the wanted index, or -1 for the one chosen.
     property bool cameraWanted: false
     property int wantedIndex: -1
@@ -111,8 +110,6 @@ SceneCapture {
     DeviceList {}
 
     Loader {
-        id: deviceHolder
-
         parent: sceneDevices.liveViewPlace ? sceneDevices.liveViewPlace : sceneDevices
         anchors.centerIn: parent
         visible: sceneDevices.liveViewPlace !== null

@@ -11,7 +11,6 @@ Item {
     readonly property alias flickable: view
     readonly property real viewWidth: view.width
     readonly property bool connected: view.connected
-    readonly property bool flashing: cover.visible
     property bool lastAccessedIsWanted: false
     // Whether the user has moved the list since the frames were loaded.
     property bool movedByHand: false

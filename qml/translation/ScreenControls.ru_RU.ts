@@ -140,11 +140,11 @@
     </message>
     <message>
         <source>Flip-flop: blinks the frame against the live picture</source>
-        <translation>Мигание: кадр мигает поверх живого изображения</translation>
+        <translation>Флип-флоп: кадр мигает поверх живого изображения</translation>
     </message>
     <message>
         <source>Flip-flop</source>
-        <translation>Мигание</translation>
+        <translation>Флип-флоп</translation>
     </message>
     <message>
         <source>Helper lines over the picture</source>
@@ -252,20 +252,8 @@
         <translation>Пиксель кадра как пиксель экрана</translation>
     </message>
     <message>
-        <source>Double click</source>
-        <translation>Двойной щелчок</translation>
-    </message>
-    <message>
         <source>Drag with the middle button to move the picture.</source>
         <translation>Перетаскивайте изображение средней кнопкой мыши.</translation>
-    </message>
-    <message>
-        <source>Fit</source>
-        <translation>Вписать</translation>
-    </message>
-    <message>
-        <source>Larger</source>
-        <translation>Крупнее</translation>
     </message>
     <message>
         <source>Pixels</source>
@@ -274,18 +262,6 @@
     <message>
         <source>Shown at %1 % of the frame&apos;s size</source>
         <translation>Показано в %1 % размера кадра</translation>
-    </message>
-    <message>
-        <source>Smaller</source>
-        <translation>Мельче</translation>
-    </message>
-    <message>
-        <source>The whole picture</source>
-        <translation>Всё изображение</translation>
-    </message>
-    <message>
-        <source>Wheel</source>
-        <translation>Колесо</translation>
     </message>
 </context>
 </TS>

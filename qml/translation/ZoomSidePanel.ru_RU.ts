@@ -4,8 +4,16 @@
 <context>
     <name>ZoomSidePanel</name>
     <message>
+        <source>Double click</source>
+        <translation>Двойной щелчок</translation>
+    </message>
+    <message>
         <source>Show the whole picture</source>
         <translation>Показать всё изображение</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Колесо</translation>
     </message>
     <message>
         <source>Zoom in</source>

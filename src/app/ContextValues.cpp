@@ -1,6 +1,7 @@
 #include "app/ContextValues.h"
 
 #include "shared/Names.h"
+#include "shared/ScreenDensity.h"
 
 #include <algorithm>
 #include <array>
@@ -15,9 +16,6 @@ using Values = QList<QQmlContext::PropertyPair>;
 constexpr std::array<FontSizes, fontRowCount> fontTable{
     {{13, 11}, {13, 11}, {14, 12}, {18, 16}, {21, 19}, {26, 24}, {31, 29}, {41, 38}, {51, 47}}};
 
-constexpr std::array<int, 8> rowDensities{96, 120, 144, 192, 240, 288, 384, 480};
-constexpr int rowOfUnknownDensity = 1;
-
 constexpr int smallestMultiple = 2;
 constexpr int largestMultiple = 22;
 
@@ -25,12 +23,6 @@ constexpr int largestMultiple = 22;
 constexpr int cacheBudgetBytes = 1244160000;
 constexpr int captureCacheBytes = cacheBudgetBytes / 8;
 constexpr int ramCacheBytes = cacheBudgetBytes / 10 * 7;
-
-int rowOfDensity(int density)
-{
-    const auto found = std::find(rowDensities.begin(), rowDensities.end(), density);
-    return found == rowDensities.end() ? rowOfUnknownDensity : static_cast<int>(found - rowDensities.begin());
-}
 
 /// Cuts off, as sizes in whole pixels are meant to be.
 int scaled(int size, double factor)
@@ -206,7 +198,7 @@ FontChoice chooseFont(const QVariant &stored, int snappedDensity)
     const int index = stored.toString().toInt(&isNumber);
     if (isNumber && index >= 0 && index < fontRowCount)
         return {index, index, fontSizesOfRow(index)};
-    const int row = rowOfDensity(snappedDensity);
+    const int row = ScreenDensity::fontIndex(snappedDensity);
     return {-1, row, fontSizesOfRow(row)};
 }
 

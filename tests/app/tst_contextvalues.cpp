@@ -1,6 +1,6 @@
 #include "app/ContextValues.h"
+#include "support/PublishedConstants.h"
 
-#include <QColor>
 #include <QtTest>
 
 using namespace morvane;
@@ -66,86 +66,19 @@ QList<QQmlContext::PropertyPair> expectedSizes(const RowSizes &row)
     return values;
 }
 
+/// The same in every run, and between them what depends on the font and the machine.
 QList<QQmlContext::PropertyPair> expectedConstants(const RowSizes &row, double dpiScale)
 {
-    return {
-        {"ChromaSimilarityMin", 0},
-        {"ChromaSimilarityMax", 100},
-        {"ChromaBlendMin", 1},
-        {"ChromaBlendMax", 100},
-        {"commonMinScaleFactor", 0.1},
-        {"NoteColor", "#00b773"},
-        {"CAPTURE_CACHE_MAX", 155520000},
-        {"RAM_CACHE_MAX", 870912000},
-        {"SoundsAvailable", true},
-        {"winId", 0},
-        {"slh", "/"},
-        {"prfx", "file:///"},
-        {"textShift", 0},
-        {"emptyFrameImage", "images/empty_96.png"},
-        {"globalFonColor", "#393939"},
-        {"GlobalDarkColor", "#393939"},
-        {"GlobalDarkerColor", "#333333"},
-        {"GlobalDarkestColor", "#282828"},
-        {"GlobalButtonColor", "#202020"},
-        {"activeColor", "#FF9900"},
-        {"defaultGrayColor", "#A0A0A0"},
-        {"controlsTextColor", "#999999"},
-        {"staticFrameColor", "#1854dd"},
-        {"staticFrameColorLight", "#2d7de7"},
-        {"LinkColor", "#3396FF"},
-        {"LinkColor2", "#1372d7"},
-        {"LinkColor3", "#1854dd"},
-        {"specialColor", QColor(Qt::transparent)},
-        {"startIndexMax", 30000},
-        {"thumbsDirName", "tmb"},
-        {"capturedDirName", "cap"},
-        {"refernceDirName", "ref"},
-        {"videoDirName", "video"},
-        {"LastProjectsKey", "lastprojects"},
-        {"BookmarksGroupKey", "bookmarks"},
-        {"ExtEditorPathKey", "exteditorpath"},
-        {"LanguageLocaleKey", "localename"},
-        {"digitalExposureMin", 3},
-        {"digitalExposureMax", 80},
-        {"digitalExposureDef", 10},
-        {"referenceImageScaleMin", 10.0},
-        {"referenceImageScaleDef", 100.0},
-        {"referenceImageScaleMax", 300.0},
-        {"defPathSmooting", 300},
-        {"lineWidth", row.lineWidth},
-        {"timelineScale", 80},
-        {"DpiScale", dpiScale},
-        {"globalCorner", 2},
-        {"wrong", "?"},
-        {"DefaultPhase", 0},
-        {"ExportJpegQuality", 80},
-        {"DupliQuantityMin", 1},
-        {"DupliQuantityMax", 9},
-        {"maxFps", 60.0},
-        {"DefaultAutosaveDelayMin", 3},
-        {"WbTempMax", 10000},
-        {"WbTempMin", 2800},
-        {"VideoFormatMPEG4", "avi"},
-        {"VideoFormatOGV", "ogv"},
-        {"VideoFormatWEBM", "webm"},
-        {"VideoFormatAPNG", "apng"},
-        {"VideoFormatWEBP", "webp"},
-        {"VideoFormatRAW", "raw"},
-        {"VideoFormatMKV", "mkv"},
-        {"ExportVideoMinFrameWidth", 320},
-        {"ExportVideoMinFrameHeight", 280},
-        {"CanonCamImgQualityJPEG", "JPEG"},
-        {"CanonCamImgQualityRAW", "RAW"},
-        {"CanonCamImgQualityRAWJPEG", "RAW+JPEG"},
-        {"MaxFrameWidth", 1200000},
-        {"MaxFrameHeight", 1200000},
-        {"RAMdefFrameWidth", 540},
-        {"RAMdefFrameHeight", 360},
-        {"appType", "capture"},
-        {"underscore", "_"},
-        {"onunix", false},
-    };
+    QList<QQmlContext::PropertyPair> values;
+    for (const auto &constant : publishedConstants()) {
+        values.append(constant);
+        if (constant.name == QLatin1String("RAM_CACHE_MAX"))
+            values.append({"SoundsAvailable", true});
+        if (constant.name == QLatin1String("defPathSmooting"))
+            values.append(QList<QQmlContext::PropertyPair>{
+                {"lineWidth", row.lineWidth}, {"timelineScale", 80}, {"DpiScale", dpiScale}});
+    }
+    return values;
 }
 
 } // namespace

@@ -25,6 +25,8 @@ struct WebcamBench
                          [this](int type, const QString &text) {
                              messages.append({type, text});
                          });
+        QObject::connect(window.get(), &WebCamWindow::progressActionChanged, window.get(),
+                         [this] { actions.append(window->progressAction()); });
     }
 
     bool connectCamera(int index = 0)
@@ -76,4 +78,6 @@ struct WebcamBench
     CaptureEnvironment environment{machine.parts(), settings};
     std::unique_ptr<WebCamWindow> window = std::make_unique<WebCamWindow>();
     QList<std::pair<int, QString>> messages;
+    /// What the progress has said that it does.
+    QStringList actions;
 };

@@ -2,41 +2,11 @@
 #include "capture/TimeLapse.h"
 #include "shared/WebcamGlobal.h"
 #include "shared/Zum.h"
+#include "support/HandTicker.h"
 #include "timeline/FramesModel.h"
 
 #include <QSignalSpy>
 #include <QTest>
-
-namespace {
-
-/// Ticks when told.
-class HandTicker : public Ticker
-{
-public:
-    void start(int intervalMs) override
-    {
-        interval = intervalMs;
-        active = true;
-    }
-    void stop() override
-    {
-        active = false;
-    }
-    bool isActive() const override
-    {
-        return active;
-    }
-    void tick()
-    {
-        QCoreApplication::processEvents();
-        if (active)
-            emit ticked();
-    }
-    int interval = 0;
-    bool active = false;
-};
-
-} // namespace
 
 /// What decides about a shot, and the time-lapse tool.
 class TestCaptureWorkflow : public QObject
@@ -94,6 +64,12 @@ private:
         for (const QVariantList &message : *told)
             texts.append(message.at(2).toString());
         return texts;
+    }
+    /// The next tick, once what the last one began has had its turn.
+    void tick()
+    {
+        QCoreApplication::processEvents();
+        ticker->tick();
     }
     void connectCamera(bool connected)
     {
@@ -365,7 +341,7 @@ void TestCaptureWorkflow::aLargerNumberIsCutToTheLimitOfTheUnit()
 void TestCaptureWorkflow::timeLapseNeedsACamera()
 {
     lapse->start();
-    QVERIFY(!global->zeitRafferRunning() && asked->isEmpty() && !ticker->active);
+    QVERIFY(!global->zeitRafferRunning() && asked->isEmpty() && !ticker->isActive());
 }
 
 void TestCaptureWorkflow::timeLapseFiresAtOnceAndThenSteadily()
@@ -377,8 +353,8 @@ void TestCaptureWorkflow::timeLapseFiresAtOnceAndThenSteadily()
     QVERIFY(global->zeitRafferRunning());
     QCOMPARE(asked->size(), 1);
     QCOMPARE(ticker->interval, 2000);
-    ticker->tick();
-    ticker->tick();
+    tick();
+    tick();
     QCOMPARE(asked->size(), 3);
     QCOMPARE(fired.size(), 3);
     lapse->start();
@@ -399,8 +375,8 @@ void TestCaptureWorkflow::anIntervalShorterThanATransferStopsAtTheSecondFiring()
     connect(global.get(), &WebcamGlobal::doCaptureFrame, workflow.get(), &CaptureWorkflow::beginShot);
     lapse->start();
     QVERIFY(global->zeitRafferRunning());
-    ticker->tick();
-    QVERIFY(!global->zeitRafferRunning() && !ticker->active);
+    tick();
+    QVERIFY(!global->zeitRafferRunning() && !ticker->isActive());
     QCOMPARE(asked->size(), 1);
     QCOMPARE(told->first(), (QVariantList{int(Zum::ZeitRafferMessage), int(Zum::Info),
                                           "Cannot capture. Try to increase interval"}));
@@ -417,7 +393,7 @@ void TestCaptureWorkflow::stoppingTells()
     lapse->stop();
     QCOMPARE(told->first(), (QVariantList{int(Zum::ZeitRafferMessage), int(Zum::Info),
                                           "Time-lapse photography tool stopped"}));
-    QVERIFY(!ticker->active);
+    QVERIFY(!ticker->isActive());
 }
 
 void TestCaptureWorkflow::disconnectingStopsTheTool()
@@ -438,13 +414,13 @@ void TestCaptureWorkflow::aLostCameraMayComeBackWithinTwoIntervals()
         connectCamera(false);
         QVERIFY(lapse->waitsForCamera() && global->zeitRafferRunning());
         const auto shots = asked->size();
-        ticker->tick();
-        ticker->tick();
+        tick();
+        tick();
         QVERIFY(global->zeitRafferRunning());
         QCOMPARE(asked->size(), shots);
         connectCamera(true);
         QVERIFY(!lapse->waitsForCamera());
-        ticker->tick();
+        tick();
         QCOMPARE(asked->size(), shots + 1);
     }
     QVERIFY(told->isEmpty());
@@ -459,10 +435,10 @@ void TestCaptureWorkflow::aLostCameraThatStaysAwayStopsTheTool()
     lapse->start();
     lapse->cameraLost();
     connectCamera(false);
-    ticker->tick();
-    ticker->tick();
+    tick();
+    tick();
     QVERIFY(global->zeitRafferRunning());
-    ticker->tick();
+    tick();
     QVERIFY(!global->zeitRafferRunning() && !lapse->waitsForCamera());
     QCOMPARE(messages(), QStringList{"Time-lapse photography tool stopped"});
 }

@@ -227,8 +227,6 @@ void TestFrameSaver::thumbnailsGrowWithTheirScale()
 
 void TestFrameSaver::tiffGoesIntoItsFolder()
 {
-    if (!QImageReader::supportedImageFormats().contains("tiff"))
-        QSKIP("no TIFF plug-in");
     FrameSaver saver(heard);
     saver.setSaveTiffToo(true);
     saver.save(colourful(40, 30), request());
@@ -257,8 +255,7 @@ void TestFrameSaver::aTiffThatFailsDoesNotStopTheRest()
 
 void TestFrameSaver::aFullDiskIsTold()
 {
-    if (!QFileInfo::exists("/dev/full"))
-        QSKIP("no full device");
+    QVERIFY2(QFileInfo::exists("/dev/full"), "the device that is always full is missing");
     // What is written under the temporary name goes to a device that is always full.
     const QString hidden =
         folder->filePath(QString(".frame_norm_000001_260101120000.png.%1.part").arg(qApp->applicationPid()));

@@ -267,15 +267,12 @@ void TestWebCamCapture::aTakenThumbnailNameMovesBoth()
 void TestWebCamCapture::aFailedImageTellsWhatFailedAndTheNextShotWorks()
 {
     QVERIFY(bench->connectCamera());
-    QStringList actions;
-    connect(bench->window.get(), &WebCamWindow::progressActionChanged, this,
-            [&] { actions.append(bench->window->progressAction()); });
     QSignalSpy saved(bench->window.get(), &WebCamWindow::frameSaved);
     QSignalSpy error(bench->window.get(), &WebCamWindow::frameSaveError);
     QSignalSpy notSaved(bench->window.get(), &WebCamWindow::frameNotSaved);
     bench->shoot("no such folder/frame_norm_000000_260101120000.png");
     QTRY_COMPARE(notSaved.size(), 1);
-    QTRY_VERIFY(actions.contains("Error: Failed to save processed image"));
+    QTRY_VERIFY(bench->actions.contains("Error: Failed to save processed image"));
     QVERIFY(bench->told(
         Zum::Error,
         "The picture could not be saved: No such file or directory. Make room on the disk, or check that the "
@@ -289,15 +286,12 @@ void TestWebCamCapture::aFailedImageTellsWhatFailedAndTheNextShotWorks()
 void TestWebCamCapture::aFailedThumbnailLeavesTheImage()
 {
     QVERIFY(bench->connectCamera());
-    QStringList actions;
-    connect(bench->window.get(), &WebCamWindow::progressActionChanged, this,
-            [&] { actions.append(bench->window->progressAction()); });
     QSignalSpy saved(bench->window.get(), &WebCamWindow::frameSaved);
     QSignalSpy error(bench->window.get(), &WebCamWindow::frameSaveError);
     bench->shoot(QFileInfo(full()).fileName(), "no such folder/frame_mini_000000_260101120000.jpg");
     QTRY_COMPARE(error.size(), 1);
     QVERIFY(bench->told(Zum::Warning, "Failed to receive image from camera"));
-    QTRY_VERIFY(actions.contains("Error: Failed to save thumb"));
+    QTRY_VERIFY(bench->actions.contains("Error: Failed to save thumb"));
     QTRY_VERIFY(bench->told(Zum::Warning,
                             "The thumbnail could not be saved: No such file or directory. Make room on the "
                             "disk, or check that the "
@@ -311,17 +305,14 @@ void TestWebCamCapture::aFailedThumbnailLeavesTheImage()
 void TestWebCamCapture::anotherExtensionWritesNothingAndLeavesTheShotRunning()
 {
     QVERIFY(bench->connectCamera());
-    QStringList actions;
-    connect(bench->window.get(), &WebCamWindow::progressActionChanged, this,
-            [&] { actions.append(bench->window->progressAction()); });
     QSignalSpy saved(bench->window.get(), &WebCamWindow::frameSaved);
     QSignalSpy error(bench->window.get(), &WebCamWindow::frameSaveError);
     QSignalSpy notSaved(bench->window.get(), &WebCamWindow::frameNotSaved);
     QTest::ignoreMessage(QtDebugMsg, "Something went wrong");
     bench->shoot("frame_norm_000000_260101120000.bmp");
-    QTRY_VERIFY(actions.contains("Error: Failed to save processed image"));
-    QVERIFY(actions.contains("Saving BMP file..."));
-    QVERIFY(actions.contains("Error saving file..."));
+    QTRY_VERIFY(bench->actions.contains("Error: Failed to save processed image"));
+    QVERIFY(bench->actions.contains("Saving BMP file..."));
+    QVERIFY(bench->actions.contains("Error saving file..."));
     QTRY_COMPARE(bench->window->progressTotal(), 0);
     QVERIFY(saved.isEmpty() && error.isEmpty() && notSaved.isEmpty());
     QVERIFY(!QFileInfo::exists(bench->path("frame_norm_000000_260101120000.bmp")));

@@ -3,17 +3,13 @@
 
 #include "jobs/MorvaRobot.h"
 #include "jobs/QVideoEncoder.h"
+#include "support/FullDisk.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-
-#ifdef Q_OS_UNIX
-#include <sys/resource.h>
-#include <csignal>
-#endif
 
 /// One render at a time, on the test's own thread.
 class TestMorvaRobot : public QObject
@@ -620,14 +616,10 @@ void TestMorvaRobot::fullDiskIsToldAndTheEarlierMovieStays()
     film.input.formatName = "raw";
     const QString earlier = render(film.input, realTools()).result;
     const qint64 size = QFileInfo(earlier).size();
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    rlimit full = before;
-    full.rlim_cur = 1000000;
-    std::signal(SIGXFSZ, SIG_IGN);
-    setrlimit(RLIMIT_FSIZE, &full);
-    const Run run = render(film.input, realTools());
-    setrlimit(RLIMIT_FSIZE, &before);
+    const Run run = [&] {
+        const FullDisk disk(1000000);
+        return render(film.input, realTools());
+    }();
     QVERIFY(!run.finished);
     QVERIFY(run.errors.contains("Error creating video"));
     QVERIFY2(run.errors.last().contains("File too large"), qPrintable(run.errors.join('\n')));

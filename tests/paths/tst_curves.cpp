@@ -1,7 +1,7 @@
 #include "CurvesSupport.h"
+#include "support/RowsOnly.h"
 
 #include <QAbstractItemModelTester>
-#include <QIdentityProxyModel>
 #include <QMetaEnum>
 #include <QTest>
 
@@ -39,21 +39,6 @@ private slots:
     void boundsOfTheSelection();
     void selectionIsAllowedWhileLocked();
 };
-
-namespace {
-
-/// The path model without its values: the numbers of its roles are those of fonts, colours and check states,
-/// which the model tester would look into.
-class RowsOnly : public QIdentityProxyModel
-{
-public:
-    QVariant data(const QModelIndex &, int) const override
-    {
-        return {};
-    }
-};
-
-} // namespace
 
 void TestCurves::offersEveryName_data()
 {

@@ -2,53 +2,14 @@
 
 #include "preview/PictureStore.h"
 #include "preview/StoredText.h"
+#include "support/LogLines.h"
 
-#include <mutex>
 #include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QImageWriter>
 #include <QTemporaryDir>
 #include <QtTest>
-
-/// The lines that the program logs while this lives; they do not reach the test's output.
-class LogCatcher
-{
-public:
-    LogCatcher()
-    {
-        instance() = this;
-        m_former = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &line) {
-            const std::lock_guard lock(instance()->m_mutex);
-            instance()->m_lines.append(line);
-        });
-    }
-    ~LogCatcher()
-    {
-        qInstallMessageHandler(m_former);
-    }
-
-    QStringList lines() const
-    {
-        const std::lock_guard lock(m_mutex);
-        return m_lines;
-    }
-    int count(const QString &line) const
-    {
-        return int(lines().count(line));
-    }
-
-private:
-    static LogCatcher *&instance()
-    {
-        static LogCatcher *catcher = nullptr;
-        return catcher;
-    }
-
-    QtMessageHandler m_former = nullptr;
-    mutable std::mutex m_mutex;
-    QStringList m_lines;
-};
 
 /// A project's picture folders, with pictures made for the test.
 class PreviewWorld
@@ -107,6 +68,16 @@ public:
     {
         add(captured() + name, plain(size, color));
     }
+    /// So many captured pictures, "0.jpg", "1.jpg" and so on.
+    QStringList addSeries(int count, QSize size = {200, 100}) const
+    {
+        QStringList names;
+        for (int i = 0; i < count; ++i) {
+            names.append(QString::number(i) + ".jpg");
+            addCaptured(names.last(), size);
+        }
+        return names;
+    }
     static void add(const QString &path, const QImage &image)
     {
         QImageWriter writer(path);
@@ -126,6 +97,27 @@ public:
         request.target = target;
         request.source = PictureRequest::fromCaptured;
         return request;
+    }
+
+    static ReadAheadPlan readAheadPlan(const QStringList &names, int cursor = 0)
+    {
+        ReadAheadPlan plan;
+        plan.number = 7;
+        plan.names = names;
+        plan.cursor = cursor;
+        plan.like = request({});
+        return plan;
+    }
+
+    static QColor middleOf(const QImage &image)
+    {
+        return image.isNull() ? QColor() : image.pixelColor(image.rect().center());
+    }
+    /// What a JPEG makes of a colour counts as that colour.
+    static bool isNear(QColor a, QColor b)
+    {
+        return qAbs(a.red() - b.red()) < 6 && qAbs(a.green() - b.green()) < 6
+               && qAbs(a.blue() - b.blue()) < 6;
     }
 
 private:

@@ -121,7 +121,7 @@ void TestPictureFiles::cutOffFileIsRefused()
 {
     QFETCH(QString, format);
     QFETCH(double, part);
-    const LogCatcher decodersTalk;
+    const LogLines decodersTalk;
     const QByteArray whole = bytesOf(format, noisy({300, 200}));
     const QByteArray bytes = whole.left(qsizetype(double(whole.size()) * part));
     QVERIFY(!readFrom(whole, format).isNull());
@@ -150,7 +150,7 @@ void TestPictureFiles::changedBytesNeverCrash_data()
 void TestPictureFiles::changedBytesNeverCrash()
 {
     QFETCH(QString, format);
-    const LogCatcher decodersTalk;
+    const LogLines decodersTalk;
     const QByteArray whole = bytesOf(format, noisy({30, 20}));
     quint32 value = 7;
     const auto next = [&value](qsizetype below) {
@@ -183,7 +183,7 @@ QByteArray withThumbnail(const QByteArray &jpeg)
 
 void TestPictureFiles::endMarkOfAnEmbeddedThumbnailIsNotTheEnd()
 {
-    const LogCatcher decodersTalk;
+    const LogLines decodersTalk;
     const QByteArray whole = withThumbnail(bytesOf("jpg", noisy({300, 200})));
     QVERIFY(!readFrom(whole, "jpg").isNull());
     QVERIFY(readFrom(whole.left(whole.size() / 2), "jpg").isNull());
@@ -210,7 +210,7 @@ void TestPictureFiles::endMarkFarFromTheEndIsFound()
 
 void TestPictureFiles::hugeHeaderIsRefusedBeforeAnythingIsMade()
 {
-    const LogCatcher decodersTalk;
+    const LogLines decodersTalk;
     const PreviewWorld world;
     QByteArray png = bytesOf("png", noisy({30, 20}));
     // 60000 by 60000: 14 gigabytes.
@@ -288,7 +288,7 @@ void TestPictureFiles::fileThatDisappearsKeepsTheLastPicture()
     StoreUnderTest test(world);
     const QImage last = test.show(PreviewWorld::request("a.jpg"));
     QVERIFY(QFile::remove(world.captured() + "b.jpg"));
-    const LogCatcher log;
+    const LogLines log;
     QCOMPARE(test.show(PreviewWorld::request("b.jpg")), last);
     QCOMPARE(log.lines(), QStringList("RamPreview: Failed to load image " + world.captured() + "b.jpg"));
 }

@@ -2,48 +2,13 @@
 
 #include <thread>
 
-#ifdef Q_OS_UNIX
-#include <sys/resource.h>
-#include <csignal>
-#endif
-
 using World = PreviewWorld;
 
 namespace {
 
 const QString failed = "RamPreview: Failed to load image %1";
+/// Of a picture of the series, shown at 100 by 50.
 constexpr qint64 pictureCost = 100 * 50 * 3;
-
-bool isNear(QColor a, QColor b)
-{
-    return qAbs(a.red() - b.red()) < 6 && qAbs(a.green() - b.green()) < 6 && qAbs(a.blue() - b.blue()) < 6;
-}
-
-QColor middleOf(const QImage &image)
-{
-    return image.pixelColor(image.rect().center());
-}
-
-/// So many pictures "0.jpg", "1.jpg" ... of 200 by 100, each shown at 100 by 50.
-QStringList addSeries(const World &world, int count)
-{
-    QStringList names;
-    for (int i = 0; i < count; ++i) {
-        names.append(QString::number(i) + ".jpg");
-        world.addCaptured(names.last(), {200, 100});
-    }
-    return names;
-}
-
-ReadAheadPlan planFor(const QStringList &names, int cursor = 0)
-{
-    ReadAheadPlan plan;
-    plan.number = 7;
-    plan.names = names;
-    plan.cursor = cursor;
-    plan.like = World::request({});
-    return plan;
-}
 
 } // namespace
 
@@ -62,15 +27,6 @@ private slots:
     void folderFollowsTheSource_data();
     void folderFollowsTheSource();
     void sameNameInTwoFoldersIsTwoPictures();
-    void largePictureGetsADiskCopyAfterTheDelivery();
-    void pictureThatFitsNeverGetsADiskCopy();
-    void diskCopyServesTheNextLoadWithTheRealSourceSize();
-    void damagedDiskCopyGivesWayToTheFramesOwnFile();
-    void clearedFlagMakesOneLoadGoToTheOwnFileAndRewritesTheCopy();
-    void forcedRequestGoesAroundBothCachesAndReplacesTheEntry();
-    void unwritableCacheFolderIsNotNoticed_data();
-    void unwritableCacheFolderIsNotNoticed();
-    void fullDiskLeavesNoHalfCopy();
     void nearlyFullCacheIsClearedForOneMore();
     void firstPictureOfAHugeBudgetShowsSomething();
     void pictureAboveTheBudgetIsRefused();
@@ -87,15 +43,7 @@ private slots:
     void otherSizesMakeThePicturesAnew();
     void withoutACacheEverythingIsLoggedAndEnds();
     void whileBusyNeitherClearsNorTakesALimit();
-    void readingAheadFillsInPlayOrderAndTellsWhatIsReady();
-    void requestMovesTheReadingAhead();
-    void readingAheadStopsAtTheBudgetAndClearsNothing();
-    void secondPassOfARangeThatFitsLoadsNothing();
-    void readingAheadPassesOverUnreadableFiles();
-    void readingAheadLeavesAClearedFlagAlone();
-    void emptyPlanEndsTheReadingAhead();
     void stoppedStoreEndsRequestsWithoutALogLine();
-    void diskUseIsMeasuredWhenIdle();
 };
 
 void TestPictureStore::pictureIsFittedAndDelivered()
@@ -105,8 +53,8 @@ void TestPictureStore::pictureIsFittedAndDelivered()
     StoreUnderTest test(world);
     const QImage image = test.show(World::request("a.jpg"));
     QCOMPARE(image.size(), QSize(100, 50));
-    QVERIFY(isNear(image.pixelColor(10, 25), Qt::red));
-    QVERIFY(isNear(image.pixelColor(90, 25), Qt::blue));
+    QVERIFY(World::isNear(image.pixelColor(10, 25), Qt::red));
+    QVERIFY(World::isNear(image.pixelColor(90, 25), Qt::blue));
     QCOMPARE(test.told, QStringList({"caching", "proportion 0.5", "finished", "not caching"}));
 }
 
@@ -139,7 +87,7 @@ void TestPictureStore::requestWhileBusyIsDropped()
     const World world;
     world.addCaptured("a.png", {20, 10});
     world.addCaptured("b.png", {20, 10});
-    const LogCatcher log;
+    const LogLines log;
     PictureStore *store = nullptr;
     PictureStore::Surroundings surroundings = world.surroundings();
     // Comes while the first one is being served.
@@ -164,7 +112,7 @@ void TestPictureStore::requestWhileBusyIsDropped()
 void TestPictureStore::emptyNameMakesNoWorkAndNoCaching()
 {
     const World world;
-    const LogCatcher log;
+    const LogLines log;
     StoreUnderTest test(world);
     test.store.request(World::request({}));
     QCOMPARE(test.told, QStringList("ended"));
@@ -177,7 +125,7 @@ void TestPictureStore::missingFileIsLoggedAndTheLastPictureStays()
     world.addCaptured("a.png", {20, 10});
     StoreUnderTest test(world);
     const QImage last = test.show(World::request("a.png"));
-    const LogCatcher log;
+    const LogLines log;
     test.told.clear();
     QCOMPARE(test.show(World::request("gone.png")), last);
     QCOMPARE(log.lines(), QStringList(failed.arg(world.captured() + "gone.png")));
@@ -206,7 +154,7 @@ void TestPictureStore::folderFollowsTheSource()
     StoreUnderTest test(world);
     PictureRequest request = World::request("a.png");
     request.source = source;
-    QCOMPARE(middleOf(test.show(request)), color);
+    QCOMPARE(World::middleOf(test.show(request)), color);
 }
 
 void TestPictureStore::sameNameInTwoFoldersIsTwoPictures()
@@ -216,158 +164,15 @@ void TestPictureStore::sameNameInTwoFoldersIsTwoPictures()
     world.addCaptured("a.png", {20, 10}, Qt::red);
     StoreUnderTest test(world);
     PictureRequest request = World::request("a.png");
-    QCOMPARE(middleOf(test.show(request)), QColor(Qt::red));
+    QCOMPARE(World::middleOf(test.show(request)), QColor(Qt::red));
     request.source = PictureRequest::fromReference;
-    QCOMPARE(middleOf(test.show(request)), QColor(Qt::blue));
-}
-
-void TestPictureStore::largePictureGetsADiskCopyAfterTheDelivery()
-{
-    const World world;
-    world.addCaptured("a.jpg", {3000, 1000});
-    StoreUnderTest test(world);
-    test.show(World::request("a.jpg"));
-    QCOMPARE(test.told.last(), QString("not caching"));
-    QVERIFY(world.copyNames().isEmpty());
-    test.workToTheEnd();
-    QCOMPARE(world.copyNames(), QStringList("a.jpg_@3000x1000.jpg"));
-    QCOMPARE(QImage(world.copies() + "a.jpg_@3000x1000.jpg").size(), QSize(1536, 512));
-}
-
-void TestPictureStore::pictureThatFitsNeverGetsADiskCopy()
-{
-    const World world;
-    world.addCaptured("a.jpg", {1536, 864});
-    StoreUnderTest test(world);
-    test.show(World::request("a.jpg"));
-    test.workToTheEnd();
-    QVERIFY(world.copyNames().isEmpty());
-}
-
-void TestPictureStore::diskCopyServesTheNextLoadWithTheRealSourceSize()
-{
-    const World world;
-    world.addCaptured("a.jpg", {3000, 1000}, Qt::red);
-    World::add(world.copies() + "a.jpg_@3000x1000.jpg", World::plain({1536, 512}, Qt::green));
-    StoreUnderTest test(world);
-    const QImage image = test.show(World::request("a.jpg", {300, 300}));
-    QVERIFY(isNear(middleOf(image), Qt::green));
-    QCOMPARE(test.text().sourceWidth, 3000.0);
-    QCOMPARE(test.text().sourceHeight, 1000.0);
-    QCOMPARE(test.text().scale, 0.1);
-}
-
-void TestPictureStore::damagedDiskCopyGivesWayToTheFramesOwnFile()
-{
-    const World world;
-    world.addCaptured("a.jpg", {3000, 1000}, Qt::red);
-    QFile copy(world.copies() + "a.jpg_@3000x1000.jpg");
-    QVERIFY(copy.open(QIODevice::WriteOnly));
-    copy.write("cut off");
-    copy.close();
-    const LogCatcher log;
-    StoreUnderTest test(world);
-    QVERIFY(isNear(middleOf(test.show(World::request("a.jpg"))), Qt::red));
-    test.workToTheEnd();
-    QCOMPARE(QImage(copy.fileName()).size(), QSize(1536, 512));
-    QVERIFY2(!log.lines().join('\n').contains("Failed"), qPrintable(log.lines().join('\n')));
-}
-
-void TestPictureStore::clearedFlagMakesOneLoadGoToTheOwnFileAndRewritesTheCopy()
-{
-    const World world;
-    world.addCaptured("a.jpg", {3000, 1000}, Qt::red);
-    StoreUnderTest test(world);
-    test.show(World::request("a.jpg"));
-    test.workToTheEnd();
-    // Another size, so that the copy gets another name.
-    world.addCaptured("a.jpg", {2000, 1000}, Qt::blue);
-
-    const LogCatcher log;
-    PictureStore::passDiskCopiesOnce();
-    test.store.clear("a.jpg");
-    QVERIFY(isNear(middleOf(test.show(World::request("a.jpg"))), Qt::blue));
-    QCOMPARE(log.count("Will use disk cache next time"), 1);
-    test.workToTheEnd();
-    QCOMPARE(world.copyNames(), QStringList("a.jpg_@2000x1000.jpg"));
-    // Only that one load: the next one takes the copy.
-    QVERIFY(QFile::remove(world.captured() + "a.jpg"));
-    test.store.clear("a.jpg");
-    QVERIFY(isNear(middleOf(test.show(World::request("a.jpg"))), Qt::blue));
-    QCOMPARE(log.lines().size(), 1);
-}
-
-void TestPictureStore::forcedRequestGoesAroundBothCachesAndReplacesTheEntry()
-{
-    const World world;
-    world.addCaptured("a.jpg", {3000, 1000}, Qt::red);
-    StoreUnderTest test(world);
-    test.show(World::request("a.jpg"));
-    test.workToTheEnd();
-    world.addCaptured("a.jpg", {3000, 1000}, Qt::blue);
-    QVERIFY(isNear(middleOf(test.show(World::request("a.jpg"))), Qt::red));
-    PictureRequest forced = World::request("a.jpg");
-    forced.forced = true;
-    QVERIFY(isNear(middleOf(test.show(forced)), Qt::blue));
-    QVERIFY(isNear(middleOf(test.show(World::request("a.jpg"))), Qt::blue));
-    test.workToTheEnd();
-    QVERIFY(isNear(middleOf(QImage(world.copies() + "a.jpg_@3000x1000.jpg")), Qt::blue));
-}
-
-void TestPictureStore::unwritableCacheFolderIsNotNoticed_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("none") << QString();
-    QTest::newRow("missing") << QStringLiteral("/nowhere/at/all/");
-    QTest::newRow("read only") << QStringLiteral("/proc/");
-}
-
-void TestPictureStore::unwritableCacheFolderIsNotNoticed()
-{
-    QFETCH(QString, folder);
-    const World world;
-    world.addCaptured("a.jpg", {3000, 1000}, Qt::red);
-    PictureStore::Surroundings surroundings = world.surroundings();
-    surroundings.folders = [&] {
-        return PictureStore::Folders{world.captured(), {}, {}, folder};
-    };
-    const LogCatcher log;
-    StoreUnderTest test(surroundings);
-    QVERIFY(isNear(middleOf(test.show(World::request("a.jpg"))), Qt::red));
-    test.workToTheEnd();
-    test.store.clear({});
-    QVERIFY(isNear(middleOf(test.show(World::request("a.jpg"))), Qt::red));
-    QVERIFY2(log.lines().isEmpty(), qPrintable(log.lines().join('\n')));
-}
-
-void TestPictureStore::fullDiskLeavesNoHalfCopy()
-{
-#ifndef Q_OS_UNIX
-    QSKIP("There is no limit for files to stand in for a full disk");
-#else
-    const World world;
-    world.addCaptured("a.jpg", {3000, 1000});
-    StoreUnderTest test(world);
-    test.show(World::request("a.jpg"));
-    rlimit former{};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &former), 0);
-    const auto formerHandler = signal(SIGXFSZ, SIG_IGN);
-    rlimit tiny = former;
-    tiny.rlim_cur = 1000;
-    setrlimit(RLIMIT_FSIZE, &tiny);
-    test.workToTheEnd();
-    setrlimit(RLIMIT_FSIZE, &former);
-    signal(SIGXFSZ, formerHandler);
-    QVERIFY2(world.copyNames().isEmpty(), qPrintable(world.copyNames().join(' ')));
-    test.store.clear({});
-    QVERIFY(!test.show(World::request("a.jpg")).isNull());
-#endif
+    QCOMPARE(World::middleOf(test.show(request)), QColor(Qt::blue));
 }
 
 void TestPictureStore::nearlyFullCacheIsClearedForOneMore()
 {
     const World world;
-    const QStringList names = addSeries(world, 4);
+    const QStringList names = world.addSeries(4);
     StoreUnderTest test(world);
     test.store.setMaxBytes(pictureCost * 3 + 15, false);
     for (int i = 0; i < 3; ++i)
@@ -406,7 +211,7 @@ void TestPictureStore::pictureAboveTheBudgetIsRefused()
     PictureRequest large = small;
     large.name = "a.png";
     large.target = {100, 50};
-    const LogCatcher log;
+    const LogLines log;
     test.told.clear();
     test.store.request(large);
     QCOMPARE(log.lines(), QStringList("Failed to store \"a.png\""));
@@ -480,7 +285,7 @@ void TestPictureStore::enlargedPictureMakesOnlyWhatIsKept()
     QCOMPARE(image.pixelColor(0, 50), QColor(Qt::red));
     QCOMPARE(image.pixelColor(299, 50), QColor(Qt::blue));
     request.cropLimit = {120000, 120000};
-    const LogCatcher log;
+    const LogLines log;
     test.store.request(request);
     QCOMPARE(log.lines(), QStringList("Failed to store \"a.png\""));
 }
@@ -497,12 +302,12 @@ void TestPictureStore::filteredPictureHasAKeyOfItsOwn()
     request.settings = {{"contrast", 1}};
     QCOMPARE(request.key(), QString("filter_a.png"));
     // Red inverted.
-    QCOMPARE(middleOf(test.show(request)), QColor(Qt::cyan));
+    QCOMPARE(World::middleOf(test.show(request)), QColor(Qt::cyan));
     // Both stay.
     test.told.clear();
     test.show(request);
     request.filtered = false;
-    QCOMPARE(middleOf(test.show(request)), QColor(Qt::red));
+    QCOMPARE(World::middleOf(test.show(request)), QColor(Qt::red));
     QVERIFY(!test.told.contains("caching"));
 }
 
@@ -513,13 +318,13 @@ void TestPictureStore::transparencyStays()
     image.fill(QColor(255, 0, 0, 0));
     World::add(world.captured() + "a.png", image);
     StoreUnderTest test(world);
-    QCOMPARE(middleOf(test.show(World::request("a.png"))).alpha(), 0);
+    QCOMPARE(World::middleOf(test.show(World::request("a.png"))).alpha(), 0);
 }
 
 void TestPictureStore::clearByKeyTakesTheFilteredOnesToo()
 {
     const World world;
-    const QStringList names = addSeries(world, 2);
+    const QStringList names = world.addSeries(2);
     StoreUnderTest test(world);
     for (const QString &name : names) {
         PictureRequest request = World::request(name);
@@ -541,7 +346,7 @@ void TestPictureStore::clearByKeyTakesTheFilteredOnesToo()
 void TestPictureStore::clearEverythingReportsNothingUsed()
 {
     const World world;
-    addSeries(world, 1);
+    world.addSeries(1);
     StoreUnderTest test(world);
     // Nothing to do on an empty cache.
     test.store.clear({});
@@ -554,7 +359,7 @@ void TestPictureStore::clearEverythingReportsNothingUsed()
 void TestPictureStore::limitDropsTheLeastRecentlyUsed()
 {
     const World world;
-    const QStringList names = addSeries(world, 3);
+    const QStringList names = world.addSeries(3);
     StoreUnderTest test(world);
     for (const QString &name : names)
         test.show(World::request(name));
@@ -582,7 +387,7 @@ void TestPictureStore::otherSizesMakeThePicturesAnew()
 void TestPictureStore::withoutACacheEverythingIsLoggedAndEnds()
 {
     const World world;
-    const LogCatcher log;
+    const LogLines log;
     StoreUnderTest test(world);
     test.store.release();
     test.store.request(World::request("a.png"));
@@ -598,7 +403,7 @@ void TestPictureStore::whileBusyNeitherClearsNorTakesALimit()
 {
     const World world;
     world.addCaptured("a.png", {200, 100});
-    const LogCatcher log;
+    const LogLines log;
     PictureStore *store = nullptr;
     PictureStore::Surroundings surroundings = world.surroundings();
     surroundings.filter = [&store](const QImage &image, const QVariantMap &, double) {
@@ -616,143 +421,17 @@ void TestPictureStore::whileBusyNeitherClearsNorTakesALimit()
     QVERIFY(!test.told.contains("max 10"));
 }
 
-void TestPictureStore::readingAheadFillsInPlayOrderAndTellsWhatIsReady()
-{
-    const World world;
-    const QStringList names = addSeries(world, 4);
-    StoreUnderTest test(world);
-    test.store.setReadAhead(planFor(names, 2));
-    QCOMPARE(test.readyPlan, 7);
-    QCOMPARE(test.ready, QBitArray(4));
-    QStringList order;
-    while (test.store.workWhileIdle()) {
-        for (int i = 0; i < 4; ++i)
-            if (test.ready.testBit(i) && !order.contains(names.at(i)))
-                order.append(names.at(i));
-    }
-    QCOMPARE(order, QStringList({"2.jpg", "3.jpg", "0.jpg", "1.jpg"}));
-    // It says nothing of it to the one who asks for pictures.
-    QVERIFY(test.told.isEmpty());
-    QVERIFY(!test.used.isEmpty());
-    test.show(World::request("1.jpg"));
-    QVERIFY(!test.told.contains("caching"));
-}
-
-void TestPictureStore::requestMovesTheReadingAhead()
-{
-    const World world;
-    const QStringList names = addSeries(world, 6);
-    StoreUnderTest test(world);
-    test.store.setReadAhead(planFor(names));
-    QVERIFY(test.store.workWhileIdle());
-    test.show(World::request("4.jpg"));
-    QVERIFY(test.store.workWhileIdle());
-    QVERIFY(test.ready.testBit(5));
-    QVERIFY(!test.ready.testBit(1));
-}
-
-void TestPictureStore::readingAheadStopsAtTheBudgetAndClearsNothing()
-{
-    const World world;
-    const QStringList names = addSeries(world, 5);
-    StoreUnderTest test(world);
-    test.store.setMaxBytes(int(pictureCost) * 3 + 1, false);
-    test.show(World::request("4.jpg"));
-    test.store.setReadAhead(planFor(names));
-    test.workToTheEnd();
-    QVERIFY(!test.used.contains(0.0));
-    QCOMPARE(test.ready.count(true), 3);
-    QVERIFY(test.ready.testBit(0) && test.ready.testBit(1) && test.ready.testBit(4));
-    // Room again, and it goes on.
-    test.store.clear("4.jpg");
-    test.workToTheEnd();
-    QVERIFY(test.ready.testBit(2));
-}
-
-void TestPictureStore::secondPassOfARangeThatFitsLoadsNothing()
-{
-    const World world;
-    const QStringList names = addSeries(world, 8);
-    StoreUnderTest test(world);
-    test.store.setReadAhead(planFor(names));
-    // The player is faster than the reading for half of the range.
-    for (const QString &name : names) {
-        test.show(World::request(name));
-        test.store.workWhileIdle();
-    }
-    test.told.clear();
-    for (const QString &name : names)
-        test.show(World::request(name));
-    QVERIFY(!test.told.contains("caching"));
-    QCOMPARE(test.told.count("finished"), 8);
-}
-
-void TestPictureStore::readingAheadPassesOverUnreadableFiles()
-{
-    const World world;
-    const QStringList names = addSeries(world, 3);
-    QVERIFY(QFile::remove(world.captured() + "1.jpg"));
-    const LogCatcher log;
-    StoreUnderTest test(world);
-    test.store.setReadAhead(planFor(names));
-    test.workToTheEnd();
-    QVERIFY(test.ready.testBit(0) && !test.ready.testBit(1) && test.ready.testBit(2));
-    // Only one who wants to see it hears of it.
-    QVERIFY(log.lines().isEmpty());
-}
-
-void TestPictureStore::readingAheadLeavesAClearedFlagAlone()
-{
-    const World world;
-    const QStringList names = addSeries(world, 2);
-    StoreUnderTest test(world);
-    const LogCatcher log;
-    PictureStore::passDiskCopiesOnce();
-    test.store.setReadAhead(planFor(names));
-    test.workToTheEnd();
-    QCOMPARE(test.ready.count(true), 0);
-    test.show(World::request("0.jpg"));
-    QCOMPARE(log.lines(), QStringList("Will use disk cache next time"));
-    test.workToTheEnd();
-    QCOMPARE(test.ready.count(true), 2);
-}
-
-void TestPictureStore::emptyPlanEndsTheReadingAhead()
-{
-    const World world;
-    StoreUnderTest test(world);
-    test.store.setReadAhead(planFor(addSeries(world, 3)));
-    test.store.workWhileIdle();
-    test.store.setReadAhead(planFor({}));
-    test.workToTheEnd();
-    QCOMPARE(test.ready.size(), 0);
-    QCOMPARE(test.used.size(), 1);
-}
-
 void TestPictureStore::stoppedStoreEndsRequestsWithoutALogLine()
 {
     const World world;
     world.addCaptured("a.png", {20, 10});
-    const LogCatcher log;
+    const LogLines log;
     StoreUnderTest test(world);
     std::thread other([&test] { test.store.stop(); });
     other.join();
     QVERIFY(test.show(World::request("a.png")).isNull());
     QCOMPARE(test.told.last(), QString("ended"));
     QVERIFY(log.lines().isEmpty());
-}
-
-void TestPictureStore::diskUseIsMeasuredWhenIdle()
-{
-    const World world;
-    world.addCaptured("a.jpg", {3000, 1000});
-    StoreUnderTest test(world);
-    test.workToTheEnd();
-    QCOMPARE(test.diskUsed, QList<double>({0.0}));
-    test.show(World::request("a.jpg"));
-    test.workToTheEnd();
-    QCOMPARE(test.diskUsed.size(), 2);
-    QVERIFY(test.diskUsed.last() > 0);
 }
 
 QTEST_GUILESS_MAIN(TestPictureStore)

@@ -1,52 +1,14 @@
-#include "preview/PreviewWorld.h"
-#include "preview/RamPreview.h"
+#include "preview/PreviewWindow.h"
 
 #include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlEngine>
-#include <QQuickWindow>
-#include <QSignalSpy>
 
 namespace {
 
-/// A preview in a window, over the folders of a project made for the test.
-class Shown
-{
-public:
-    explicit Shown(bool visible = true)
-    {
-        Zum::setProjectFolders({world.root(), world.captured(), world.reference(), world.root() + "bg/", {}});
-        item = new RamPreview(window.contentItem());
-        item->setPlayingCaptured(true);
-        item->setScaleFactor(0);
-        window.resize(400, 300);
-        if (visible) {
-            window.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&window));
-        }
-    }
-    ~Shown()
-    {
-        delete item;
-        Zum::setProjectFolders({});
-    }
-
-    /// Shows the picture and waits until it is painted.
-    void show(const QString &name)
-    {
-        const QSignalSpy painted(item, &RamPreview::newPicRendered);
-        item->setImageName(name);
-        QTRY_VERIFY(!painted.isEmpty());
-    }
-
-    PreviewWorld world;
-    QQuickWindow window;
-    RamPreview *item = nullptr;
-};
-
 QColor colorOf(const RamPreview &item)
 {
-    return item.image().isNull() ? QColor() : item.image().pixelColor(item.image().rect().center());
+    return PreviewWorld::middleOf(item.image());
 }
 
 } // namespace
@@ -82,12 +44,6 @@ private slots:
     void forcedUpdateReadsTheFileAgain();
     void cleanCacheSignalClears();
     void histogramIsCountedForANewPicture();
-    void eyedropperTellsThePixelUnderTheMouse();
-    void eyedropperSeesTheMirroredPicture();
-    void hoverWithoutAToolTellsNothing();
-    void leavingTellsNowhereAndBlack();
-    void clicksAndForwardedClicksReachTheSameHandlers();
-    void maskPointsAreKeptInPixelsOfTheFile();
     void destructionWhileLoading();
     void timelineIsReadAheadWhileRunning();
     void diskUseIsTold();
@@ -146,7 +102,7 @@ void TestRamPreview::startsAsPublished()
 void TestRamPreview::isMadeByTheScene()
 {
     qmlRegisterType<RamPreview>("CRamPreview", 1, 0, "CRamPreview");
-    const Shown shown;
+    const PreviewWindow shown;
     shown.world.addCaptured("a.png", {20, 10});
     FramesModel frames;
     QQmlEngine engine;
@@ -180,7 +136,7 @@ void TestRamPreview::isMadeByTheScene()
 
 void TestRamPreview::showsTheNamedPictureAtItsSize()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {200, 100}, Qt::red);
     shown.item->setPosition({30, 40});
     shown.show("a.png");
@@ -191,7 +147,7 @@ void TestRamPreview::showsTheNamedPictureAtItsSize()
 
 void TestRamPreview::tellsOfThePictureWhenItIsPainted()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {200, 100});
     shown.item->setImageWidth(80);
     const QSignalSpy source(shown.item, &RamPreview::sourceImageInfoChanged);
@@ -207,7 +163,7 @@ void TestRamPreview::tellsOfThePictureWhenItIsPainted()
 
 void TestRamPreview::emptyNamePaintsAnEmptyItem()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {400, 300}, Qt::red);
     shown.item->setCameraViewWidth(400);
     shown.item->setCameraViewHeight(300);
@@ -220,7 +176,7 @@ void TestRamPreview::emptyNamePaintsAnEmptyItem()
 
 void TestRamPreview::answerForANameTakenAwayIsNotShown()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {20, 10});
     shown.item->setImageName("a.png");
     shown.item->actuallyRequestImage();
@@ -233,11 +189,11 @@ void TestRamPreview::answerForANameTakenAwayIsNotShown()
 
 void TestRamPreview::rapidNamesBuildNoQueueAndComeToRestOnTheLast()
 {
-    Shown shown;
+    PreviewWindow shown;
     const QList<QColor> colors{Qt::red, Qt::green, Qt::blue, Qt::yellow};
     for (int i = 0; i < 4; ++i)
         shown.world.addCaptured(QString("%1.png").arg(i), {20, 10}, colors.at(i));
-    const LogCatcher log;
+    const LogLines log;
     shown.item->setImageName("0.png");
     shown.item->actuallyRequestImage();
     for (int i = 1; i < 4; ++i) {
@@ -256,7 +212,7 @@ void TestRamPreview::rapidNamesBuildNoQueueAndComeToRestOnTheLast()
 
 void TestRamPreview::thousandQuickNamesEndOnTheLast()
 {
-    Shown shown;
+    PreviewWindow shown;
     const QList<QColor> colors{Qt::red, Qt::green, Qt::blue};
     for (int i = 0; i < 3; ++i)
         shown.world.addCaptured(QString("%1.png").arg(i), {20, 10}, colors.at(i));
@@ -273,7 +229,7 @@ void TestRamPreview::thousandQuickNamesEndOnTheLast()
 
 void TestRamPreview::sourceChangedMeanwhileIsCaughtUp()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {20, 10}, Qt::red);
     PreviewWorld::add(shown.world.reference() + "a.png", PreviewWorld::plain({20, 10}, Qt::blue));
     PreviewWorld::add(shown.world.root() + "bg/a.png", PreviewWorld::plain({20, 10}, Qt::green));
@@ -287,7 +243,7 @@ void TestRamPreview::sourceChangedMeanwhileIsCaughtUp()
 
 void TestRamPreview::withoutPermissionNothingIsAskedFor()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {20, 10});
     shown.item->setRenderAllowed(false);
     const QSignalSpy caching(shown.item, &RamPreview::cachingChanged);
@@ -303,12 +259,12 @@ void TestRamPreview::withoutPermissionNothingIsAskedFor()
 
 void TestRamPreview::unreadableFileKeepsThePictureAndTheItemGoesOn()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {20, 10}, Qt::red);
     shown.world.addCaptured("b.png", {20, 10}, Qt::blue);
     shown.show("a.png");
     {
-        const LogCatcher log;
+        const LogLines log;
         shown.item->setImageName("gone.png");
         const QString line = "RamPreview: Failed to load image " + shown.world.captured() + "gone.png";
         QTRY_COMPARE(log.count(line), 1);
@@ -324,11 +280,11 @@ void TestRamPreview::unreadableFileKeepsThePictureAndTheItemGoesOn()
 
 void TestRamPreview::storeRefusalKeepsTheItemGoing()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {20, 10}, Qt::red);
     shown.item->setCacheMaxInBytes(10);
     {
-        const LogCatcher log;
+        const LogLines log;
         shown.item->setImageName("a.png");
         QTRY_COMPARE(log.count("Failed to store \"a.png\""), 1);
     }
@@ -340,7 +296,7 @@ void TestRamPreview::storeRefusalKeepsTheItemGoing()
 
 void TestRamPreview::cachingIsToldAtOnceAndItsEndLater()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {20, 10});
     QList<bool> told;
     connect(shown.item, &RamPreview::cachingChanged, shown.item, [&] { told.append(shown.item->caching()); });
@@ -368,7 +324,7 @@ void TestRamPreview::processingAboveTwoIsRefused()
 
 void TestRamPreview::changeOfProcessingWaits()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {20, 10}, QColor(200, 100, 100));
     shown.item->setSettings({{"saturation", 0}});
     shown.show("a.png");
@@ -381,7 +337,7 @@ void TestRamPreview::changeOfProcessingWaits()
 
 void TestRamPreview::settingsDropTheFilteredPictures()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {20, 10}, QColor(200, 100, 100));
     shown.item->setPostProcessing(Zum::NonRealtimeProcessing);
     shown.item->setSettings({{"saturation", 0}});
@@ -396,7 +352,7 @@ void TestRamPreview::settingsDropTheFilteredPictures()
 
 void TestRamPreview::scaleHasARelativeTolerance()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {200, 100});
     shown.item->setScaleFactor(0.5);
     shown.show("a.png");
@@ -424,7 +380,7 @@ void TestRamPreview::cropLimitOfNineIsIgnored()
 
 void TestRamPreview::changedCropLimitClearsAndAsks()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {200, 100});
     shown.show("a.png");
     shown.item->setImageWidth(30);
@@ -438,7 +394,7 @@ void TestRamPreview::changedCropLimitClearsAndAsks()
 
 void TestRamPreview::changedTargetResetsTheItemsScaleAndShowsTheNewSize()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {200, 100});
     shown.show("a.png");
     shown.item->setScale(3);
@@ -449,7 +405,7 @@ void TestRamPreview::changedTargetResetsTheItemsScaleAndShowsTheNewSize()
 
 void TestRamPreview::cacheLimitIsForwarded()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {200, 100});
     const QSignalSpy forwarded(shown.item, qOverload<int, bool>(&RamPreview::cacheMaxInBytes));
     shown.item->setCacheMaxInBytes(30000);
@@ -461,13 +417,13 @@ void TestRamPreview::cacheLimitIsForwarded()
 
 void TestRamPreview::clearCurrentForgetsThePictureAndPassesTheCopy()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {2000, 100}, Qt::red);
     shown.item->clearCurrentInCache();
     shown.show("a.png");
     QTRY_COMPARE(shown.world.copyNames().size(), 1);
     shown.world.addCaptured("a.png", {2000, 100}, Qt::blue);
-    const LogCatcher log;
+    const LogLines log;
     shown.item->clearCurrentInCache();
     shown.item->reload();
     QTRY_COMPARE(colorOf(*shown.item), QColor(Qt::blue));
@@ -478,7 +434,7 @@ void TestRamPreview::clearCurrentForgetsThePictureAndPassesTheCopy()
 
 void TestRamPreview::forcedUpdateReadsTheFileAgain()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {20, 10}, Qt::red);
     shown.show("a.png");
     shown.world.addCaptured("a.png", {20, 10}, Qt::blue);
@@ -496,7 +452,7 @@ void TestRamPreview::forcedUpdateReadsTheFileAgain()
 
 void TestRamPreview::cleanCacheSignalClears()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {20, 10}, Qt::red);
     shown.show("a.png");
     QTRY_VERIFY(shown.item->cacheUsedPercent() > 0);
@@ -506,7 +462,7 @@ void TestRamPreview::cleanCacheSignalClears()
 
 void TestRamPreview::histogramIsCountedForANewPicture()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {20, 10}, Qt::black);
     shown.world.addCaptured("b.png", {20, 10}, Qt::white);
     const QSignalSpy counted(shown.item, &RamPreview::histogramDataChanged);
@@ -527,110 +483,10 @@ void TestRamPreview::histogramIsCountedForANewPicture()
     QCOMPARE(shown.item->histogramDataR().first().toDouble(), 1.0);
 }
 
-void TestRamPreview::eyedropperTellsThePixelUnderTheMouse()
-{
-    Shown shown;
-    PreviewWorld::add(shown.world.captured() + "a.png", PreviewWorld::halves({100, 50}));
-    shown.item->setEyedropperOn(true);
-    shown.show("a.png");
-    const QSignalSpy told(shown.item, &RamPreview::setEyedropper);
-    QTest::mouseMove(&shown.window, {10, 20});
-    QTRY_COMPARE(told.size(), 1);
-    QCOMPARE(told.last(), QVariantList({QPoint(10, 20), QColor(Qt::red)}));
-    QTest::mouseClick(&shown.window, Qt::LeftButton, {}, {90, 20});
-    QTRY_VERIFY(told.last() == QVariantList({QPoint(90, 20), QColor(Qt::blue)}));
-}
-
-void TestRamPreview::eyedropperSeesTheMirroredPicture()
-{
-    Shown shown;
-    PreviewWorld::add(shown.world.captured() + "a.png", PreviewWorld::halves({100, 50}));
-    shown.item->setMaskingOn(true);
-    shown.item->setMirrored(true);
-    // Where a former test has left the mouse it must not stay.
-    QTest::mouseMove(&shown.window, {300, 200});
-    shown.show("a.png");
-    const QSignalSpy told(shown.item, &RamPreview::setEyedropper);
-    shown.item->evokeMousePressEvent(1, 10, 20);
-    const auto colorAt = [&told](QPoint point) {
-        for (const QVariantList &pick : told)
-            if (pick.first() == point)
-                return pick.last().value<QColor>();
-        return QColor();
-    };
-    QTRY_COMPARE(colorAt({10, 20}), QColor(Qt::blue));
-    // A point outside of the picture tells nothing.
-    shown.item->evokeMousePressEvent(1, 100, 20);
-    QTest::qWait(30);
-    QVERIFY(!colorAt({100, 20}).isValid());
-}
-
-void TestRamPreview::hoverWithoutAToolTellsNothing()
-{
-    Shown shown;
-    shown.world.addCaptured("a.png", {100, 50});
-    shown.show("a.png");
-    const QSignalSpy told(shown.item, &RamPreview::setEyedropper);
-    QTest::mouseMove(&shown.window, {10, 20});
-    QTest::qWait(30);
-    QVERIFY(told.isEmpty());
-}
-
-void TestRamPreview::leavingTellsNowhereAndBlack()
-{
-    Shown shown;
-    shown.world.addCaptured("a.png", {100, 50});
-    shown.item->setEyedropperOn(true);
-    shown.show("a.png");
-    QTest::mouseMove(&shown.window, {10, 20});
-    const QSignalSpy told(shown.item, &RamPreview::setEyedropper);
-    QTest::mouseMove(&shown.window, {300, 200});
-    QTRY_VERIFY(!told.isEmpty());
-    QCOMPARE(told.last(), QVariantList({QPoint(-1, -1), QColor(Qt::black)}));
-}
-
-void TestRamPreview::clicksAndForwardedClicksReachTheSameHandlers()
-{
-    Shown shown;
-    shown.item->setSize({100, 50});
-    const QSignalSpy left(shown.item, &RamPreview::mousePressed);
-    const QSignalSpy right(shown.item, &RamPreview::rightClick);
-    QTest::mouseClick(&shown.window, Qt::LeftButton, {}, {10, 20});
-    QTest::mouseClick(&shown.window, Qt::RightButton, {}, {11, 21});
-    shown.item->evokeMousePressEvent(1, 12, 22);
-    shown.item->evokeMousePressEvent(2, 13, 23);
-    shown.item->evokeMousePressEvent(4, 14, 24);
-    shown.item->evokeMousePressEvent(0, 15, 25);
-    QCOMPARE(QList<QVariantList>(left), QList<QVariantList>({{QPoint(10, 20)}, {QPoint(12, 22)}}));
-    QCOMPARE(QList<QVariantList>(right), QList<QVariantList>({{QPoint(11, 21)}, {QPoint(13, 23)}}));
-}
-
-void TestRamPreview::maskPointsAreKeptInPixelsOfTheFile()
-{
-    Shown shown;
-    shown.world.addCaptured("a.png", {200, 100}, Qt::white);
-    shown.item->setMaskingOn(true);
-    shown.item->setDrawablePointSize(10);
-    shown.show("a.png");
-    shown.item->addDrawablePoint({40, 25});
-    QTRY_COMPARE(shown.window.grabWindow().pixelColor(40, 25), QColor("#aa00ff"));
-    QCOMPARE(shown.window.grabWindow().pixelColor(60, 25), QColor(Qt::white));
-    // At half the size it lies at half the place.
-    shown.item->setCameraViewWidth(50);
-    QTRY_COMPARE(shown.window.grabWindow().pixelColor(20, 12), QColor("#aa00ff"));
-    // The polygon is filled with the mask's colour.
-    shown.item->setPathNodes(
-        {QPointF(0, 0), QVariantMap{{"x", 10}, {"y", 0}}, QPointF(10, 10), QPointF(0, 10)});
-    shown.item->setMaskColor(Qt::black);
-    QTRY_COMPARE(shown.window.grabWindow().pixelColor(5, 5), QColor(Qt::black));
-    shown.item->setMaskingOn(false);
-    QTRY_COMPARE(shown.window.grabWindow().pixelColor(20, 12), QColor(Qt::white));
-}
-
 void TestRamPreview::destructionWhileLoading()
 {
     for (int turn = 0; turn < 5; ++turn) {
-        Shown shown(false);
+        PreviewWindow shown({400, 300}, false);
         shown.world.addCaptured("a.jpg", {2000, 1500});
         shown.item->setImageName("a.jpg");
         if (turn > 1)
@@ -642,7 +498,7 @@ void TestRamPreview::destructionWhileLoading()
 
 void TestRamPreview::timelineIsReadAheadWhileRunning()
 {
-    Shown shown;
+    PreviewWindow shown;
     FramesModel frames;
     for (int i = 0; i < 4; ++i) {
         shown.world.addCaptured(QString("%1.png").arg(i), {20, 10});
@@ -666,7 +522,7 @@ void TestRamPreview::timelineIsReadAheadWhileRunning()
 
 void TestRamPreview::diskUseIsTold()
 {
-    Shown shown;
+    PreviewWindow shown;
     shown.world.addCaptured("a.png", {2000, 1000});
     shown.show("a.png");
     QTRY_VERIFY(shown.item->diskCacheUsedPercent() > 0);

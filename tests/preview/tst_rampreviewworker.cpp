@@ -73,32 +73,37 @@ void ask(PreviewThread &thread, const PictureRequest &request)
                 request.settings);
 }
 
-QStringList addSeries(const PreviewWorld &world, int count)
-{
-    QStringList names;
-    for (int i = 0; i < count; ++i) {
-        names.append(QString("%1.jpg").arg(i));
-        world.addCaptured(names.last(), {64, 32});
-    }
-    return names;
-}
-
-ReadAheadPlan planFor(const QStringList &names)
-{
-    ReadAheadPlan plan;
-    plan.number = 1;
-    plan.names = names;
-    plan.like = PreviewWorld::request({});
-    return plan;
-}
-
 ReadAheadPlan filteredPlanFor(const QStringList &names)
 {
-    ReadAheadPlan plan = planFor(names);
+    ReadAheadPlan plan = PreviewWorld::readAheadPlan(names);
     plan.like.filtered = true;
     plan.like.settings = {{"contrast", 1}};
     return plan;
 }
+
+/// A filter that waits, once it has begun, until it may go on.
+struct HeldFilter
+{
+    PictureStore::Surroundings in(const PreviewWorld &world)
+    {
+        PictureStore::Surroundings surroundings = world.surroundings();
+        surroundings.filter = [this](const QImage &image, const QVariantMap &, double) {
+            inside = true;
+            while (!goOn)
+                std::this_thread::yield();
+            return image;
+        };
+        return surroundings;
+    }
+    void waitUntilInside() const
+    {
+        while (!inside)
+            std::this_thread::yield();
+    }
+
+    std::atomic<bool> inside = false;
+    std::atomic<bool> goOn = false;
+};
 
 } // namespace
 
@@ -176,17 +181,9 @@ void TestRamPreviewWorker::limitIsToldWhenAskedFor()
 void TestRamPreviewWorker::twoRequestsAtOnceFromOtherThreads()
 {
     const PreviewWorld world;
-    const QStringList names = addSeries(world, 2);
-    const LogCatcher log;
-    std::atomic<bool> inside = false;
-    std::atomic<bool> goOn = false;
-    PictureStore::Surroundings surroundings = world.surroundings();
-    surroundings.filter = [&](const QImage &image, const QVariantMap &, double) {
-        inside = true;
-        while (!goOn)
-            std::this_thread::yield();
-        return image;
-    };
+    const QStringList names = world.addSeries(2, {64, 32});
+    const LogLines log;
+    HeldFilter filter;
     std::atomic<int> ended = 0;
     std::atomic<int> finished = 0;
     PictureStore::Reports reports;
@@ -196,19 +193,18 @@ void TestRamPreviewWorker::twoRequestsAtOnceFromOtherThreads()
     reports.finished = [&] {
         ++finished;
     };
-    PictureStore store(surroundings, reports);
+    PictureStore store(filter.in(world), reports);
     std::thread first([&] {
         PictureRequest request = PreviewWorld::request(names.first());
         request.filtered = true;
         request.settings = {{"contrast", 1}};
         store.request(request);
     });
-    while (!inside)
-        std::this_thread::yield();
+    filter.waitUntilInside();
     std::thread second([&] { store.request(PreviewWorld::request(names.last())); });
     second.join();
     QCOMPARE(ended.load(), 1);
-    goOn = true;
+    filter.goOn = true;
     first.join();
     QCOMPARE(finished.load(), 1);
     QCOMPARE(log.count("-Cache is busy"), 1);
@@ -217,23 +213,14 @@ void TestRamPreviewWorker::twoRequestsAtOnceFromOtherThreads()
 void TestRamPreviewWorker::requestGoesBeforeTheReadingAhead()
 {
     const PreviewWorld world;
-    const QStringList names = addSeries(world, 20);
-    std::atomic<bool> inside = false;
-    std::atomic<bool> goOn = false;
-    PictureStore::Surroundings surroundings = world.surroundings();
-    surroundings.filter = [&](const QImage &image, const QVariantMap &, double) {
-        inside = true;
-        while (!goOn)
-            std::this_thread::yield();
-        return image;
-    };
+    const QStringList names = world.addSeries(20, {64, 32});
+    HeldFilter filter;
     Owner owner;
-    PreviewThread thread(&owner, surroundings);
+    PreviewThread thread(&owner, filter.in(world));
     thread.call(&RamPreviewWorker::setReadAhead, filteredPlanFor(names));
-    while (!inside)
-        std::this_thread::yield();
+    filter.waitUntilInside();
     ask(thread, PreviewWorld::request("19.jpg"));
-    goOn = true;
+    filter.goOn = true;
     QTRY_COMPARE(owner.ready.count(true), 20);
     // What was being read, and nothing more.
     QCOMPARE(owner.readyAtFinish, 1);
@@ -242,10 +229,10 @@ void TestRamPreviewWorker::requestGoesBeforeTheReadingAhead()
 void TestRamPreviewWorker::readingAheadEndsWithThePlan()
 {
     const PreviewWorld world;
-    const QStringList names = addSeries(world, 5);
+    const QStringList names = world.addSeries(5, {64, 32});
     Owner owner;
     PreviewThread thread(&owner, world.surroundings());
-    thread.call(&RamPreviewWorker::setReadAhead, planFor(names));
+    thread.call(&RamPreviewWorker::setReadAhead, PreviewWorld::readAheadPlan(names));
     QTRY_COMPARE(owner.ready.count(true), 5);
     QVERIFY(owner.told.isEmpty());
 }
@@ -271,7 +258,7 @@ void TestRamPreviewWorker::destructionWhileLoading()
 void TestRamPreviewWorker::destructionWhileReadingAhead()
 {
     const PreviewWorld world;
-    const QStringList names = addSeries(world, 300);
+    const QStringList names = world.addSeries(300, {64, 32});
     std::atomic<int> read = 0;
     PictureStore::Surroundings surroundings = world.surroundings();
     surroundings.filter = [&](const QImage &image, const QVariantMap &, double) {

@@ -8,17 +8,6 @@
 
 namespace {
 
-/// Frames with the pictures of those names; "" for a frame without one.
-void fill(FramesModel &model, const QStringList &names)
-{
-    for (const QString &name : names)
-        model.appendFrame({{"capFull", name}, {"refFull", name.isEmpty() ? QString() : "r" + name}});
-    model.setLoaded(true);
-    model.setTimelineRangeStart(0);
-    model.setTimelineRangeEnd(model.last());
-    model.setCurrentIndex(0);
-}
-
 PictureRequest captured()
 {
     PictureRequest request;
@@ -26,15 +15,40 @@ PictureRequest captured()
     return request;
 }
 
-/// The plans that were told, the newest last.
-struct Plans
+/// A film with the pictures of those names, "" for a frame without one, and what is planned for it.
+struct Film
 {
-    explicit Plans(TimelineReadAhead &readAhead)
+    explicit Film(const QStringList &names) : readAhead(filled(model, names))
     {
         QObject::connect(&readAhead, &TimelineReadAhead::planned, &readAhead,
-                         [this](const ReadAheadPlan &plan) { all.append(plan); });
+                         [this](const ReadAheadPlan &plan) { plans.append(plan); });
     }
-    QList<ReadAheadPlan> all;
+    /// Wishes for its pictures for the first time, and waits for the plan.
+    bool wish(const PictureRequest &request = captured())
+    {
+        readAhead.setWish(request, true);
+        return QTest::qWaitFor([this] { return plans.size() == 1; });
+    }
+    const ReadAheadPlan &plan() const
+    {
+        return plans.last();
+    }
+
+    FramesModel model;
+    TimelineReadAhead readAhead;
+    QList<ReadAheadPlan> plans;
+
+private:
+    static FramesModel &filled(FramesModel &model, const QStringList &names)
+    {
+        for (const QString &name : names)
+            model.appendFrame({{"capFull", name}, {"refFull", name.isEmpty() ? QString() : "r" + name}});
+        model.setLoaded(true);
+        model.setTimelineRangeStart(0);
+        model.setTimelineRangeEnd(model.last());
+        model.setCurrentIndex(0);
+        return model;
+    }
 };
 
 QBitArray bits(const QString &text)
@@ -133,53 +147,37 @@ void TestReadAhead::everyWalkVisitsEachOnce()
 
 void TestReadAhead::planHoldsTheRangeFromTheCursor()
 {
-    FramesModel model;
-    fill(model, {"a", "b", "c", "d", "e", "f"});
-    model.setTimelineRangeStart(1);
-    model.setTimelineRangeEnd(4);
-    model.setCurrentIndex(3);
-    TimelineReadAhead readAhead(model);
-    const Plans plans(readAhead);
-    readAhead.setWish(captured(), true);
-    QTRY_COMPARE(plans.all.size(), 1);
-    QCOMPARE(plans.all.last().names, QStringList({"b", "c", "d", "e"}));
-    QCOMPARE(plans.all.last().cursor, 2);
-    QCOMPARE(plans.all.last().loop, model.loop());
-    QVERIFY(plans.all.last().like.wantsSameAs(captured()));
+    Film film({"a", "b", "c", "d", "e", "f"});
+    film.model.setTimelineRangeStart(1);
+    film.model.setTimelineRangeEnd(4);
+    film.model.setCurrentIndex(3);
+    QVERIFY(film.wish());
+    QCOMPARE(film.plan().names, QStringList({"b", "c", "d", "e"}));
+    QCOMPARE(film.plan().cursor, 2);
+    QCOMPARE(film.plan().loop, film.model.loop());
+    QVERIFY(film.plan().like.wantsSameAs(captured()));
 }
 
 void TestReadAhead::heldFramesAndEmptyOnesAreNoPicturesOfTheirOwn()
 {
-    FramesModel model;
-    fill(model, {"a", "a", "", "b", "a"});
-    TimelineReadAhead readAhead(model);
-    const Plans plans(readAhead);
-    readAhead.setWish(captured(), true);
-    QTRY_COMPARE(plans.all.size(), 1);
-    QCOMPARE(plans.all.last().names, QStringList({"a", "b"}));
+    Film film({"a", "a", "", "b", "a"});
+    QVERIFY(film.wish());
+    QCOMPARE(film.plan().names, QStringList({"a", "b"}));
 }
 
 void TestReadAhead::hiddenFramesAreLeftOut()
 {
-    FramesModel model;
-    fill(model, {"a", "b", "c"});
-    model.setValue(1, Zum::Hidden, true);
-    TimelineReadAhead readAhead(model);
-    const Plans plans(readAhead);
-    readAhead.setWish(captured(), true);
-    QTRY_COMPARE(plans.all.size(), 1);
-    QCOMPARE(plans.all.last().names, QStringList({"a", "c"}));
+    Film film({"a", "b", "c"});
+    film.model.setValue(1, Zum::Hidden, true);
+    QVERIFY(film.wish());
+    QCOMPARE(film.plan().names, QStringList({"a", "c"}));
 }
 
 void TestReadAhead::referenceFramesWhenTheyArePlayed()
 {
-    FramesModel model;
-    fill(model, {"a", "b"});
-    TimelineReadAhead readAhead(model);
-    const Plans plans(readAhead);
-    readAhead.setWish(PictureRequest(), true);
-    QTRY_COMPARE(plans.all.size(), 1);
-    QCOMPARE(plans.all.last().names, QStringList({"ra", "rb"}));
+    Film film({"a", "b"});
+    QVERIFY(film.wish(PictureRequest()));
+    QCOMPARE(film.plan().names, QStringList({"ra", "rb"}));
 }
 
 void TestReadAhead::planFollowsEditsAndSettings_data()
@@ -192,130 +190,102 @@ void TestReadAhead::planFollowsEditsAndSettings_data()
 void TestReadAhead::planFollowsEditsAndSettings()
 {
     QFETCH(QString, what);
-    FramesModel model;
-    fill(model, {"a", "b", "c"});
-    TimelineReadAhead readAhead(model);
-    const Plans plans(readAhead);
-    readAhead.setWish(captured(), true);
-    QTRY_COMPARE(plans.all.size(), 1);
+    Film film({"a", "b", "c"});
+    QVERIFY(film.wish());
     PictureRequest other = captured();
     other.target = {1, 1};
     if (what == "append")
-        model.appendFrame({{"capFull", "d"}});
+        film.model.appendFrame({{"capFull", "d"}});
     else if (what == "remove")
-        model.removeSingleFrame(0);
+        film.model.removeSingleFrame(0);
     else if (what == "hide")
-        model.setValue(0, Zum::Hidden, true);
+        film.model.setValue(0, Zum::Hidden, true);
     else if (what == "range")
-        model.setTimelineRangeEnd(1);
+        film.model.setTimelineRangeEnd(1);
     else if (what == "loop")
-        model.setLoop(!model.loop());
+        film.model.setLoop(!film.model.loop());
     else if (what == "pendulum")
-        model.setPendulum(!model.pendulum());
+        film.model.setPendulum(!film.model.pendulum());
     else if (what == "direction")
-        model.setPlayDirection(Zum::Backward);
+        film.model.setPlayDirection(Zum::Backward);
     else
-        readAhead.setWish(other, true);
-    QTRY_COMPARE(plans.all.size(), 2);
-    QVERIFY(plans.all.last().number > plans.all.first().number);
+        film.readAhead.setWish(other, true);
+    QTRY_COMPARE(film.plans.size(), 2);
+    QVERIFY(film.plan().number > film.plans.first().number);
 }
 
 void TestReadAhead::stepsOfTheCursorMakeNoPlan()
 {
-    FramesModel model;
-    fill(model, {"a", "b", "c"});
-    TimelineReadAhead readAhead(model);
-    const Plans plans(readAhead);
-    readAhead.setWish(captured(), true);
-    QTRY_COMPARE(plans.all.size(), 1);
-    model.setCurrentIndex(1);
-    model.setCurrentIndex(2);
-    readAhead.setWish(captured(), true);
+    Film film({"a", "b", "c"});
+    QVERIFY(film.wish());
+    film.model.setCurrentIndex(1);
+    film.model.setCurrentIndex(2);
+    film.readAhead.setWish(captured(), true);
     QTest::qWait(80);
-    QCOMPARE(plans.all.size(), 1);
+    QCOMPARE(film.plans.size(), 1);
 }
 
 void TestReadAhead::turningRoundMakesAPlan()
 {
-    FramesModel model;
-    fill(model, {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"});
-    model.setLoop(true);
-    model.setPendulum(true);
-    TimelineReadAhead readAhead(model);
-    const Plans plans(readAhead);
-    readAhead.setWish(captured(), true);
-    QTRY_COMPARE(plans.all.size(), 1);
-    model.setTimelineFps(60);
-    model.play();
-    QTRY_COMPARE(model.playDirection(), int(Zum::Backward));
+    Film film({"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"});
+    film.model.setLoop(true);
+    film.model.setPendulum(true);
+    QVERIFY(film.wish());
+    film.model.setTimelineFps(60);
+    film.model.play();
+    QTRY_COMPARE(film.model.playDirection(), int(Zum::Backward));
     const auto isBackward = [](const ReadAheadPlan &plan) {
         return plan.direction == Zum::Backward;
     };
-    QTRY_VERIFY(std::any_of(plans.all.cbegin(), plans.all.cend(), isBackward));
-    model.stop();
+    QTRY_VERIFY(std::any_of(film.plans.cbegin(), film.plans.cend(), isBackward));
+    film.model.stop();
 }
 
 void TestReadAhead::inactiveGivesAnEmptyPlan()
 {
-    FramesModel model;
-    fill(model, {"a", "b", "c"});
-    TimelineReadAhead readAhead(model);
-    const Plans plans(readAhead);
-    readAhead.setWish(captured(), true);
-    QTRY_COMPARE(plans.all.size(), 1);
-    readAhead.setWish(captured(), false);
-    QTRY_COMPARE(plans.all.size(), 2);
-    QVERIFY(plans.all.last().names.isEmpty());
+    Film film({"a", "b", "c"});
+    QVERIFY(film.wish());
+    film.readAhead.setWish(captured(), false);
+    QTRY_COMPARE(film.plans.size(), 2);
+    QVERIFY(film.plan().names.isEmpty());
 }
 
 void TestReadAhead::readyRunsAndPercent()
 {
-    FramesModel model;
     // Row 2 is hidden, row 4 has no picture, row 5 holds the picture of row 0.
-    fill(model, {"a", "b", "x", "c", "", "a", "d"});
-    model.setValue(2, Zum::Hidden, true);
-    TimelineReadAhead readAhead(model);
-    QCOMPARE(readAhead.readyPercent(), 0.0);
-    const Plans plans(readAhead);
-    readAhead.setWish(captured(), true);
-    QTRY_COMPARE(plans.all.size(), 1);
-    QCOMPARE(plans.all.last().names, QStringList({"a", "b", "c", "d"}));
-    const int plan = plans.all.last().number;
-    QCOMPARE(runsOf(readAhead), QString("4-4"));
-    readAhead.setReady(plan, bits("1000"));
-    QCOMPARE(runsOf(readAhead), QString("0-0 4-5"));
-    QCOMPARE(readAhead.readyPercent(), 50.0);
-    readAhead.setReady(plan, bits("1110"));
-    QCOMPARE(runsOf(readAhead), QString("0-5"));
-    readAhead.setReady(plan, bits("1111"));
-    QCOMPARE(runsOf(readAhead), QString("0-6"));
-    QCOMPARE(readAhead.readyPercent(), 100.0);
+    Film film({"a", "b", "x", "c", "", "a", "d"});
+    film.model.setValue(2, Zum::Hidden, true);
+    QCOMPARE(film.readAhead.readyPercent(), 0.0);
+    QVERIFY(film.wish());
+    QCOMPARE(film.plan().names, QStringList({"a", "b", "c", "d"}));
+    const int plan = film.plan().number;
+    QCOMPARE(runsOf(film.readAhead), QString("4-4"));
+    film.readAhead.setReady(plan, bits("1000"));
+    QCOMPARE(runsOf(film.readAhead), QString("0-0 4-5"));
+    QCOMPARE(film.readAhead.readyPercent(), 50.0);
+    film.readAhead.setReady(plan, bits("1110"));
+    QCOMPARE(runsOf(film.readAhead), QString("0-5"));
+    film.readAhead.setReady(plan, bits("1111"));
+    QCOMPARE(runsOf(film.readAhead), QString("0-6"));
+    QCOMPARE(film.readAhead.readyPercent(), 100.0);
 }
 
 void TestReadAhead::readyOfAnEarlierPlanIsDropped()
 {
-    FramesModel model;
-    fill(model, {"a", "b"});
-    TimelineReadAhead readAhead(model);
-    const Plans plans(readAhead);
-    readAhead.setWish(captured(), true);
-    QTRY_COMPARE(plans.all.size(), 1);
-    readAhead.setReady(plans.all.last().number - 1, bits("11"));
-    readAhead.setReady(plans.all.last().number, bits("111"));
-    QCOMPARE(readAhead.readyPercent(), 0.0);
+    Film film({"a", "b"});
+    QVERIFY(film.wish());
+    film.readAhead.setReady(film.plan().number - 1, bits("11"));
+    film.readAhead.setReady(film.plan().number, bits("111"));
+    QCOMPARE(film.readAhead.readyPercent(), 0.0);
 }
 
 void TestReadAhead::readyIsToldAFewTimesASecondAtMost()
 {
-    FramesModel model;
-    fill(model, {"a", "b"});
-    TimelineReadAhead readAhead(model);
-    const Plans plans(readAhead);
-    readAhead.setWish(captured(), true);
-    QTRY_COMPARE(plans.all.size(), 1);
-    const QSignalSpy told(&readAhead, &TimelineReadAhead::readyChanged);
+    Film film({"a", "b"});
+    QVERIFY(film.wish());
+    const QSignalSpy told(&film.readAhead, &TimelineReadAhead::readyChanged);
     for (int i = 0; i < 100; ++i)
-        readAhead.setReady(plans.all.last().number, bits(i % 2 ? "11" : "10"));
+        film.readAhead.setReady(film.plan().number, bits(i % 2 ? "11" : "10"));
     QCOMPARE(told.size(), 0);
     QTRY_COMPARE(told.size(), 1);
 }

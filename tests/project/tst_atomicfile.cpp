@@ -1,4 +1,6 @@
 #include "project/AtomicFile.h"
+#include "support/FullDisk.h"
+#include "support/OrdinaryUser.h"
 
 #include <QDir>
 #include <QFile>
@@ -6,10 +8,7 @@
 #include <QtTest>
 
 #ifdef Q_OS_UNIX
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
-#include <csignal>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -21,48 +20,6 @@ QByteArray contents(const QString &path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
 }
-
-#ifdef Q_OS_UNIX
-/// A disk that is full: no file of this process may grow past a size while this lives.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-    }
-
-private:
-    rlimit m_before{};
-};
-
-/// The rights of an ordinary user while this lives, also where the tests run as root.
-class OrdinaryUser
-{
-public:
-    OrdinaryUser() : m_before(geteuid())
-    {
-        if (m_before == 0)
-            m_changed = seteuid(65534) == 0;
-    }
-    ~OrdinaryUser()
-    {
-        if (m_changed && seteuid(m_before) != 0)
-            qFatal("cannot take the former rights back");
-    }
-
-private:
-    uid_t m_before;
-    bool m_changed = false;
-};
-#endif
 
 } // namespace
 
@@ -164,7 +121,7 @@ private slots:
         const QByteArray folder = m_folder->path().toLocal8Bit();
         QCOMPARE(chmod(folder.constData(), 0555), 0);
         {
-            const OrdinaryUser user;
+            const OrdinaryUser user(m_folder->path());
             const AtomicFile::Result result = AtomicFile::write(path(), "two");
             QVERIFY(!result.ok);
             QVERIFY(!result.reason.isEmpty());

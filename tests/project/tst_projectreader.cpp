@@ -1,7 +1,6 @@
 #include "DocumentText.h"
 #include "project/ProjectReader.h"
 
-#include <QBuffer>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -14,26 +13,16 @@ class TestProjectReader : public QObject
     Q_OBJECT
 
 private:
-    static ProjectReadResult read(QByteArray bytes)
-    {
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::ReadOnly);
-        return ProjectReader::read(buffer);
-    }
-    static ProjectReadResult readElements(const QByteArray &elements)
-    {
-        return read(projectFileWith(elements));
-    }
     static ProjectDocument::Frames settings(const QByteArray &attributes)
     {
-        const ProjectReadResult result = readElements("<FrameSettings " + attributes + "/>");
+        const ProjectReadResult result = readProjectWith("<FrameSettings " + attributes + "/>");
         return result.document.frameSettings.value_or(ProjectDocument::Frames{});
     }
 
 private slots:
     void oneFrameGivesItsRow()
     {
-        const ProjectReadResult result = readElements(
+        const ProjectReadResult result = readProjectWith(
             "<Frame capTumb=\"t.jpg\" capFull=\"f.jpg\" refTumb=\"rt.jpg\" refFull=\"r.jpg\" mirrored=\"1\" "
             "static=\"2\" hidden=\"1\" phase=\"7\"/>");
         QCOMPARE(result.status, Status::Ok);
@@ -44,14 +33,14 @@ private slots:
     void bareFrameHasDefaults()
     {
         const ProjectReadResult result =
-            readElements("<Frame/><Frame static=\"x\" phase=\"\" hidden=\"no\"/>");
+            readProjectWith("<Frame/><Frame static=\"x\" phase=\"\" hidden=\"no\"/>");
         QCOMPARE(result.document.frames, QList<ProjectFrame>({ProjectFrame{}, ProjectFrame{}}));
     }
 
     void framesKeepTheirOrder()
     {
         const ProjectReadResult result =
-            readElements("<Frame capFull=\"b\"/><Filters/><Frame capFull=\"a\"/><Frame capFull=\"c\"/>");
+            readProjectWith("<Frame capFull=\"b\"/><Filters/><Frame capFull=\"a\"/><Frame capFull=\"c\"/>");
         QStringList names;
         for (const ProjectFrame &frame : result.document.frames)
             names.append(frame.capFull);
@@ -60,7 +49,7 @@ private slots:
 
     void groupsMayComeInAnyOrderAndTheFirstCounts()
     {
-        const ProjectReadResult result = read(
+        const ProjectReadResult result = readProject(
             "<MorvaneProject><Frame/><ProjectInfo movieTitle=\"one\"/><ProjectInfo movieTitle=\"two\"/>"
             "<Version major=\"3\"/><Version major=\"1\"/></MorvaneProject>");
         QCOMPARE(result.status, Status::Ok);
@@ -70,7 +59,7 @@ private slots:
     void elementsAreFoundAtAnyDepth()
     {
         const ProjectReadResult result =
-            readElements("<Extra><Frame capFull=\"a\"/><Filters enabled=\"2\"/></Extra>");
+            readProjectWith("<Extra><Frame capFull=\"a\"/><Filters enabled=\"2\"/></Extra>");
         QCOMPARE(result.document.frames.size(), 1);
         QCOMPARE(result.document.filters->enabled, 2);
     }
@@ -78,7 +67,7 @@ private slots:
     void projectWithoutOptionalGroupsLoads()
     {
         const ProjectReadResult result =
-            readElements("<FrameSettings/><CanonCameraSettings/><RenderVideoSettings/>");
+            readProjectWith("<FrameSettings/><CanonCameraSettings/><RenderVideoSettings/>");
         QCOMPARE(result.status, Status::Ok);
         QCOMPARE(result.event(), Zum::FileIsOk);
         QVERIFY(!result.document.filters);
@@ -91,8 +80,8 @@ private slots:
 
     void unknownAttributesAndElementsAreIgnored()
     {
-        const ProjectReadResult result =
-            readElements("<Unknown a=\"1\">text</Unknown><x:y z:w=\"1\"/><Frame capFull=\"a\" other=\"b\"/>");
+        const ProjectReadResult result = readProjectWith(
+            "<Unknown a=\"1\">text</Unknown><x:y z:w=\"1\"/><Frame capFull=\"a\" other=\"b\"/>");
         QCOMPARE(result.status, Status::Ok);
         QVERIFY(result.refusals.isEmpty());
         QCOMPARE(result.document.frames.size(), 1);
@@ -123,7 +112,7 @@ private slots:
     void negativeRealIsTreatedAsAbsent()
     {
         const ProjectReadResult result =
-            readElements("<FrameSettings gridOpacity=\"-0.5\" refImageScale=\"-1\"/>");
+            readProjectWith("<FrameSettings gridOpacity=\"-0.5\" refImageScale=\"-1\"/>");
         QVERIFY(!result.document.frameSettings->gridOpacity);
         QVERIFY(!result.document.frameSettings->refImageScale);
         QVERIFY(result.refusals.isEmpty());
@@ -165,15 +154,15 @@ private slots:
     void backgroundScaleIsLimited()
     {
         QFETCH(QByteArray, text);
-        const ProjectReadResult result =
-            readElements("<BackgroundSettings backgroundPreviewScale=\"" + text + "\" backgroundOn=\"0\"/>");
+        const ProjectReadResult result = readProjectWith("<BackgroundSettings backgroundPreviewScale=\""
+                                                         + text + "\" backgroundOn=\"0\"/>");
         QTEST(*result.document.background->backgroundPreviewScale, "scale");
         QCOMPARE(result.document.background->backgroundOn, false);
     }
 
     void animationSettingsHaveDefaults()
     {
-        const ProjectReadResult result = readElements("<AnimationSettings quality=\"70\" method=\"x\"/>");
+        const ProjectReadResult result = readProjectWith("<AnimationSettings quality=\"70\" method=\"x\"/>");
         const QMap<QString, int> expected{{u"filtersharpness"_s, 5}, {u"filterstrength"_s, 100},
                                           {u"filtertype"_s, 0},      {u"loopcount"_s, 0},
                                           {u"lossless"_s, 1},        {u"method"_s, 6},
@@ -183,7 +172,7 @@ private slots:
 
     void pictureStyleAndWhiteBalanceTemperatureAreNotRead()
     {
-        const ProjectReadResult result = readElements(
+        const ProjectReadResult result = readProjectWith(
             "<CanonCameraSettings Av=\"a\" Tv=\"t\" WB=\"w\" ISO=\"i\" ICCpath=\"\" PictureStyle=\"p\" "
             "ExpoComp=\"e\" WBtemp=\"5000\"/>");
         const ProjectDocument::Camera &camera = *result.document.camera;
@@ -199,7 +188,7 @@ private slots:
 
     void olderPathAndBitrateAreRead()
     {
-        const ProjectReadResult result = readElements(
+        const ProjectReadResult result = readProjectWith(
             "<Path pathData=\"0,1,2,0,0,0,0;\" smooth=\"20\"/><RenderVideoSettings bitrate=\"800\" "
             "fps=\"12.5\"/>");
         QCOMPARE(result.document.path->pathData, u"0,1,2,0,0,0,0;"_s);
@@ -211,7 +200,7 @@ private slots:
 
     void filtersTakeExactlyTheFourKnownKeys()
     {
-        const ProjectReadResult result = readElements(
+        const ProjectReadResult result = readProjectWith(
             "<Filters enabled=\"2\" contrast=\"4.5\" denoise=\"-1\" saturation=\"x\" "
             "chromakey=\"0.3;0.1;red\" "
             "enhance=\"1;2\" drawpoints=\"1\" background=\"true;1;../x;false\"/>");
@@ -221,28 +210,28 @@ private slots:
                                               {u"saturation"_s, u"50"_s},
                                               {u"chromakey"_s, u"0.3;0.1;red"_s}};
         QCOMPARE(result.document.filters->values, expected);
-        QVERIFY(readElements("<Filters enabled=\"0\"/>").document.filters->values.isEmpty());
+        QVERIFY(readProjectWith("<Filters enabled=\"0\"/>").document.filters->values.isEmpty());
     }
 
     void versionIsChecked()
     {
-        const ProjectReadResult two = read("<MorvaneProject><Version major=\"2\"/></MorvaneProject>");
+        const ProjectReadResult two = readProject("<MorvaneProject><Version major=\"2\"/></MorvaneProject>");
         QCOMPARE(two.status, Status::NotAProject);
         QCOMPARE(two.event(), Zum::NotMorvaneFile);
         QCOMPARE(two.logLine, u"Version 2"_s);
         QVERIFY(two.hasVersion);
-        const ProjectReadResult none = read("<MorvaneProject><Frame/></MorvaneProject>");
+        const ProjectReadResult none = readProject("<MorvaneProject><Frame/></MorvaneProject>");
         QCOMPARE(none.error, u"No 'Version' node"_s);
         QVERIFY(!none.hasVersion);
         QVERIFY(none.document.frames.isEmpty());
-        QCOMPARE(read("<Project><Version ver=\"3.0\"/></Project>").error,
+        QCOMPARE(readProject("<Project><Version ver=\"3.0\"/></Project>").error,
                  u"Unrecognized project version (3)"_s);
     }
 
     void legacyProjectIsRecognised()
     {
         const ProjectReadResult result =
-            read("<Project><Version ver=\"2.5\"/><Frame capFull=\"a\"/></Project>");
+            readProject("<Project><Version ver=\"2.5\"/><Frame capFull=\"a\"/></Project>");
         QCOMPARE(result.status, Status::Legacy);
         QCOMPARE(result.event(), Zum::LegacyFile);
         QCOMPARE(result.error, u"Legacy version (2.5). Converting..."_s);
@@ -251,7 +240,7 @@ private slots:
 
     void versionMustStandBelowTheRoot()
     {
-        QCOMPARE(read("<Version major=\"3\"/>").error, u"No 'Version' node"_s);
+        QCOMPARE(readProject("<Version major=\"3\"/>").error, u"No 'Version' node"_s);
     }
 
     void otherEncodingsAreRead()
@@ -259,12 +248,12 @@ private slots:
         const QString text =
             u"<MorvaneProject><Version major=\"3\"/><ProjectInfo movieTitle=\"Жук\"/></MorvaneProject>"_s;
         QStringEncoder utf16(QStringConverter::Utf16, QStringConverter::Flag::WriteBom);
-        const ProjectReadResult wide = read(utf16(text));
+        const ProjectReadResult wide = readProject(utf16(text));
         QCOMPARE(wide.document.info.value_or(ProjectDocument::Info{}).movieTitle, u"Жук"_s);
         const ProjectReadResult declared =
-            read("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + text.toUtf8());
+            readProject("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + text.toUtf8());
         QCOMPARE(declared.document.info.value_or(ProjectDocument::Info{}).movieTitle, u"Жук"_s);
-        const ProjectReadResult marked = read("\xef\xbb\xbf" + text.toUtf8());
+        const ProjectReadResult marked = readProject("\xef\xbb\xbf" + text.toUtf8());
         QCOMPARE(marked.status, Status::Ok);
     }
 

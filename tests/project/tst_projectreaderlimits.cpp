@@ -2,7 +2,6 @@
 #include "project/ProjectReader.h"
 #include "RandomProject.h"
 
-#include <QBuffer>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -80,16 +79,6 @@ class TestProjectReaderLimits : public QObject
     Q_OBJECT
 
 private:
-    static ProjectReadResult read(QByteArray bytes)
-    {
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::ReadOnly);
-        return ProjectReader::read(buffer);
-    }
-    static ProjectReadResult readElements(const QByteArray &elements)
-    {
-        return read(projectFileWith(elements));
-    }
     static QByteArray begin()
     {
         return "<MorvaneProject><Version major=\"3\"/>";
@@ -98,7 +87,7 @@ private:
 private slots:
     void emptyFileIsNotParsable()
     {
-        const ProjectReadResult result = read({});
+        const ProjectReadResult result = readProject({});
         QCOMPARE(result.status, Status::NotParsable);
         QCOMPARE(result.event(), Zum::FileXMLunparseble);
         QVERIFY2(result.error.contains(u" at line 1, column 0"_s), qPrintable(result.error));
@@ -108,14 +97,15 @@ private slots:
     {
         const QByteArray whole = ProjectWriter::xml(randomProject(3, 5));
         for (qsizetype size = 0; size < whole.size() - 1; size += 7)
-            QCOMPARE(read(whole.left(size)).status, Status::NotParsable);
+            QCOMPARE(readProject(whole.left(size)).status, Status::NotParsable);
         // Only the line break behind the last tag is missing here.
-        QCOMPARE(read(whole.chopped(1)).status, Status::Ok);
+        QCOMPARE(readProject(whole.chopped(1)).status, Status::Ok);
     }
 
     void parserErrorNamesItsPlace()
     {
-        const ProjectReadResult result = read("<MorvaneProject>\n  <Version major=3/>\n</MorvaneProject>");
+        const ProjectReadResult result =
+            readProject("<MorvaneProject>\n  <Version major=3/>\n</MorvaneProject>");
         QCOMPARE(result.status, Status::NotParsable);
         QVERIFY2(QRegularExpression(u"^.+ at line 2, column \\d+$"_s).match(result.error).hasMatch(),
                  qPrintable(result.error));
@@ -123,8 +113,8 @@ private slots:
 
     void garbageBehindTheDocumentIsNotParsable()
     {
-        QCOMPARE(read(projectFileWith("") + "garbage").status, Status::NotParsable);
-        QCOMPARE(read(projectFileWith("") + "<!-- a comment -->").status, Status::Ok);
+        QCOMPARE(readProject(projectFileWith("") + "garbage").status, Status::NotParsable);
+        QCOMPARE(readProject(projectFileWith("") + "<!-- a comment -->").status, Status::Ok);
     }
 
     void frameNamesThatLeaveTheFolderAreRefused_data()
@@ -143,7 +133,7 @@ private slots:
         onlyPhase.phase = 3;
         for (const char *attribute : {"capTumb", "capFull", "refTumb", "refFull"}) {
             const ProjectReadResult result =
-                readElements(QByteArray("<Frame phase=\"3\" ") + attribute + "=\"" + name + "\"/>");
+                readProjectWith(QByteArray("<Frame phase=\"3\" ") + attribute + "=\"" + name + "\"/>");
             QCOMPARE(result.status, Status::Ok);
             QCOMPARE(result.document.frames, QList<ProjectFrame>({onlyPhase}));
             QCOMPARE(result.refusals.size(), 1);
@@ -162,7 +152,7 @@ private slots:
     void usualFrameNamesPass()
     {
         QFETCH(QString, name);
-        const ProjectReadResult result = readElements("<Frame capFull=\"" + name.toUtf8() + "\"/>");
+        const ProjectReadResult result = readProjectWith("<Frame capFull=\"" + name.toUtf8() + "\"/>");
         const bool drive = name == u"a:b.jpg"_s;
         QCOMPARE(result.document.frames.first().capFull, drive ? QString() : name);
         QCOMPARE(result.refusals.size(), drive ? 1 : 0);
@@ -170,7 +160,7 @@ private slots:
 
     void otherNamesThatLeaveTheFolderAreRefused()
     {
-        const ProjectReadResult result = readElements(
+        const ProjectReadResult result = readProjectWith(
             "<BackgroundSettings backgroundImage=\"/etc/passwd\"/>"
             "<RenderVideoSettings exportVideoFileName=\"../../movie\"/>"
             "<CanonCameraSettings ICCpath=\"/etc/passwd\"/>");
@@ -183,7 +173,7 @@ private slots:
                 {u"The value \"/etc/passwd\" of \"backgroundImage\" in the project file is refused"_s,
                  u"The value \"../../movie\" of \"exportVideoFileName\" in the project file is refused"_s,
                  u"The value \"/etc/passwd\" of \"ICCpath\" in the project file is refused"_s}));
-        QCOMPARE(readElements("<CanonCameraSettings ICCpath=\"/usr/a.ICC\"/>").document.camera->iccPath,
+        QCOMPARE(readProjectWith("<CanonCameraSettings ICCpath=\"/usr/a.ICC\"/>").document.camera->iccPath,
                  u"/usr/a.ICC"_s);
     }
 
@@ -201,7 +191,7 @@ private slots:
     void absurdNumbersAreRefused()
     {
         QFETCH(QByteArray, attribute);
-        const ProjectReadResult result = readElements("<FrameSettings " + attribute + "/>");
+        const ProjectReadResult result = readProjectWith("<FrameSettings " + attribute + "/>");
         QCOMPARE(result.status, Status::Ok);
         QCOMPARE(result.refusals.size(), 1);
         const QByteArray name = attribute.left(attribute.indexOf('='));
@@ -212,7 +202,7 @@ private slots:
 
     void absurdFrameNumbersAreRefused()
     {
-        const ProjectReadResult result = readElements("<Frame/><Frame static=\"9\" phase=\"99999999\"/>");
+        const ProjectReadResult result = readProjectWith("<Frame/><Frame static=\"9\" phase=\"99999999\"/>");
         QCOMPARE(result.document.frames.at(1), ProjectFrame{});
         QCOMPARE(result.refusals,
                  QStringList({u"Frame 2: the value \"9\" of \"static\" is refused"_s,
@@ -221,14 +211,14 @@ private slots:
 
     void speedOfNoFramesIsRefused()
     {
-        QVERIFY(!readElements("<RenderVideoSettings fps=\"0\"/>").document.render->fps);
-        QVERIFY(!readElements("<RenderVideoSettings fps=\"100000\"/>").document.render->fps);
+        QVERIFY(!readProjectWith("<RenderVideoSettings fps=\"0\"/>").document.render->fps);
+        QVERIFY(!readProjectWith("<RenderVideoSettings fps=\"100000\"/>").document.render->fps);
     }
 
     void absurdTextIsRefused()
     {
         const ProjectReadResult result =
-            readElements("<ProjectInfo movieTitle=\"" + QByteArray(70000, 'a') + "\" movieScene=\"b\"/>");
+            readProjectWith("<ProjectInfo movieTitle=\"" + QByteArray(70000, 'a') + "\" movieScene=\"b\"/>");
         QVERIFY(!result.document.info->movieTitle);
         QCOMPARE(result.document.info->movieScene, u"b"_s);
         QCOMPARE(result.refusals.size(), 1);
@@ -238,14 +228,14 @@ private slots:
     void quotesInsideATextAreNoAttributes()
     {
         const QByteArray title = QByteArray("it's 'so' > ").repeated(400);
-        const ProjectReadResult result = readElements("<ProjectInfo movieTitle=\"" + title + "\"/>");
+        const ProjectReadResult result = readProjectWith("<ProjectInfo movieTitle=\"" + title + "\"/>");
         QCOMPARE(result.status, Status::Ok);
         QCOMPARE(result.document.info->movieTitle, QString::fromLatin1(title));
     }
 
     void refusalsAreCountedPastAHundred()
     {
-        const ProjectReadResult result = readElements(QByteArray("<Frame capFull=\"/a\"/>").repeated(150));
+        const ProjectReadResult result = readProjectWith(QByteArray("<Frame capFull=\"/a\"/>").repeated(150));
         QCOMPARE(result.refusals.size(), 101);
         QCOMPARE(result.refusals.last(), u"50 further values of the project file were refused"_s);
         QCOMPARE(result.document.frames.size(), 150);
@@ -266,7 +256,7 @@ private slots:
     {
         QFETCH(QByteArray, declaration);
         const ProjectReadResult result =
-            read(declaration + projectFileWith("<ProjectInfo movieTitle=\"&b;\"/>"));
+            readProject(declaration + projectFileWith("<ProjectInfo movieTitle=\"&b;\"/>"));
         QCOMPARE(result.status, Status::NotParsable);
         QVERIFY2(result.error.startsWith(
                      u"A document type declaration has no place in a project file at line 1"_s),
@@ -275,7 +265,7 @@ private slots:
 
     void bareDoctypeIsIgnoredAndReported()
     {
-        const ProjectReadResult result = read("<!DOCTYPE project>\n" + projectFileWith("<Frame/>"));
+        const ProjectReadResult result = readProject("<!DOCTYPE project>\n" + projectFileWith("<Frame/>"));
         QCOMPARE(result.status, Status::Ok);
         QCOMPARE(result.refusals,
                  QStringList(u"The document type declaration of the project file is ignored"_s));
@@ -283,7 +273,7 @@ private slots:
 
     void undeclaredEntityIsNotParsable()
     {
-        QCOMPARE(readElements("<ProjectInfo movieTitle=\"&who;\"/>").status, Status::NotParsable);
+        QCOMPARE(readProjectWith("<ProjectInfo movieTitle=\"&who;\"/>").status, Status::NotParsable);
     }
 
     void twoHundredMegabytesOfGarbageEndSoonInLittleMemory_data()

@@ -1,25 +1,11 @@
 #include "shared/desktop/FreeDesktopServices.h"
 #include "shared/desktop/WindowsDesktopServices.h"
+#include "UrlCatcher.h"
 
 #include <QDBusConnection>
 #include <QDesktopServices>
 #include <QTemporaryDir>
 #include <QTest>
-
-/// Takes the addresses that would otherwise open a program of the desktop.
-class UrlCatcher : public QObject
-{
-    Q_OBJECT
-
-public:
-    QList<QUrl> urls;
-
-public slots:
-    void open(const QUrl &url)
-    {
-        urls.append(url);
-    }
-};
 
 class TestDesktopServices : public QObject
 {

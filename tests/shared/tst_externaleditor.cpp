@@ -5,39 +5,13 @@
 #include "shared/WebcamGlobal.h"
 #include "support/FakeDesktopServices.h"
 #include "support/FakeDialogs.h"
+#include "support/OrdinaryUser.h"
 
-#include <unistd.h>
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-
-namespace {
-
-/// While it lives, a test that runs as root may read no more than anybody. The folder is opened to all.
-class OrdinaryUser
-{
-public:
-    explicit OrdinaryUser(const QTemporaryDir &folder) : m_root(::getuid() == 0)
-    {
-        QFile::setPermissions(folder.path(), QFile::Permissions(0x7755));
-        constexpr uid_t nobody = 65534;
-        if (m_root && ::setresuid(nobody, nobody, 0) != 0)
-            qFatal("root cannot become an ordinary user");
-    }
-    ~OrdinaryUser()
-    {
-        if (m_root && ::setresuid(0, 0, 0) != 0)
-            qFatal("root cannot come back");
-    }
-    Q_DISABLE_COPY_MOVE(OrdinaryUser)
-
-private:
-    bool m_root;
-};
-
-} // namespace
 
 class TestExternalEditor : public QObject
 {
@@ -264,7 +238,7 @@ void TestExternalEditor::unreadableFileIsReported()
     const QString picture = fileOf(QStringLiteral("picture.png"));
     QVERIFY(QFile::setPermissions(picture, {}));
     {
-        const OrdinaryUser user(*m_folder);
+        const OrdinaryUser user(m_folder->path());
         m_editor->startWithExternalEditor(picture);
     }
     compareOnlyError(QStringLiteral("File is not readable %1").arg(picture));

@@ -2,6 +2,7 @@
 
 #include "app/TypeRegistry.h"
 
+#include <QFile>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQmlExpression>
@@ -165,6 +166,17 @@ QStringList ShellWindow::messages() const
     return evaluate(QStringLiteral("Array.from({length: messagesModel.count}, "
                                    "(_, i) => messagesModel.get(i).text)"))
         .toStringList();
+}
+
+bool ShellWindow::hasKeyboard() const
+{
+    return m_window->activeFocusItem() == item(QStringLiteral("keyHandler"));
+}
+
+QByteArray ShellWindow::projectFileText() const
+{
+    QFile file(m_window->projPath());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 bool ShellWindow::settle() const

@@ -101,6 +101,10 @@ public:
     QObject *timer(int intervalMs) const;
     /// The texts of the message list, the newest first.
     QStringList messages() const;
+    /// Whether keys go to the scene itself, and to no field or list.
+    bool hasKeyboard() const;
+    /// The project file as it lies on the disk; empty without one.
+    QByteArray projectFileText() const;
     /// Waits for the next frame: only then do things stand where they belong after a change.
     bool settle() const;
     /// Clicks into the middle of a visible item, once it stands where it belongs.

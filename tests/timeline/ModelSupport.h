@@ -1,30 +1,15 @@
 #pragma once
 
 #include "support/HandTicker.h"
+#include "support/LogLines.h"
+#include "support/RowsOnly.h"
 #include "timeline/FramesModel.h"
 
-#include <mutex>
 #include <QAbstractItemModelTester>
-#include <QIdentityProxyModel>
 #include <QSignalSpy>
 #include <QStringList>
 #include <QTest>
 #include <utility>
-
-/// The model's role numbers start at 0 and overlap the toolkit's own, whose types the model tester checks:
-/// this proxy shows the rows without their values.
-class RowsOnly : public QIdentityProxyModel
-{
-    Q_OBJECT
-
-public:
-    using QIdentityProxyModel::QIdentityProxyModel;
-
-    QVariant data(const QModelIndex &, int) const override
-    {
-        return {};
-    }
-};
 
 /// A frames model that runs by hand, watched by the model tester. Batches take a step a turn of the event
 /// loop; playback ticks by hand.
@@ -93,39 +78,6 @@ private:
 
     RowsOnly m_rows;
     QAbstractItemModelTester m_tester{&m_rows, QAbstractItemModelTester::FailureReportingMode::QtTest};
-};
-
-/// Collects log lines instead of printing them, for as long as it lives.
-class LogLines
-{
-public:
-    LogLines()
-    {
-        s_lines = this;
-        m_previous = qInstallMessageHandler(&LogLines::receive);
-    }
-    ~LogLines()
-    {
-        qInstallMessageHandler(m_previous);
-        s_lines = nullptr;
-    }
-    QStringList take()
-    {
-        const std::lock_guard lock(m_mutex);
-        return std::exchange(m_texts, {});
-    }
-
-private:
-    static void receive(QtMsgType, const QMessageLogContext &, const QString &text)
-    {
-        const std::lock_guard lock(s_lines->m_mutex);
-        s_lines->m_texts.append(text.trimmed());
-    }
-
-    inline static LogLines *s_lines = nullptr;
-    std::mutex m_mutex;
-    QStringList m_texts;
-    QtMessageHandler m_previous = nullptr;
 };
 
 /// Writes the names of signals into one list, to see their order.

@@ -53,12 +53,6 @@ QString CaptureWindow::pictureOf(int row)
     return capturedFolder() + frames().get(row, false).value(QStringLiteral("capFull")).toString();
 }
 
-QByteArray CaptureWindow::projectFileText()
-{
-    QFile file(window().projPath());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 int CaptureWindow::framesInProjectFile()
 {
     const ProjectReadResult read = ProjectReader::readFile(window().projPath());
@@ -68,4 +62,11 @@ int CaptureWindow::framesInProjectFile()
 int CaptureWindow::told(const QString &text) const
 {
     return int(messages().filter(text).size());
+}
+
+void CaptureWindow::trigger(const char *objectName)
+{
+    QQuickItem *item = control(QString::fromLatin1(objectName));
+    QVERIFY2(item != nullptr, objectName);
+    QVERIFY(QMetaObject::invokeMethod(item, "clicked"));
 }

@@ -28,6 +28,8 @@ public:
     }
     /// The item of the panel with that name.
     QQuickItem *control(const QString &objectName) const;
+    /// Has that item of the panel clicked, wherever it is scrolled to.
+    void trigger(const char *objectName);
     /// The captured pictures that lie in the project's folder.
     QStringList capturedFiles();
     QString capturedFolder()
@@ -36,7 +38,6 @@ public:
     }
     /// The picture of that row, as it lies on the disk.
     QString pictureOf(int row);
-    QByteArray projectFileText();
     /// The rows of the project file as it lies on the disk; -1 when it cannot be read.
     int framesInProjectFile();
     /// How many messages contain that text.

@@ -43,12 +43,6 @@ private:
         };
         return options;
     }
-    static void click(CaptureWindow &shell, const char *name)
-    {
-        QQuickItem *item = shell.control(QString::fromLatin1(name));
-        QVERIFY2(item != nullptr, name);
-        QVERIFY(QMetaObject::invokeMethod(item, "clicked"));
-    }
     static QStringList deviceNames(CaptureWindow &shell)
     {
         return shell
@@ -68,7 +62,7 @@ void TestCaptureDevices::listShowsWhatIsThere()
     QCOMPARE(deviceNames(shell), (QStringList{"Big Camera #0", "HDMI Grabber #2", "Demo Webcam #301"}));
     QCOMPARE(shell.evaluate("MainWindow.capturingDeviceObject.listOfCameras.get(1).value").toInt(), 2);
     QCOMPARE(shell.evaluate("MainWindow.capturingDeviceObject.listOfCameras.get(1).battery").toInt(), -1);
-    click(shell, "deviceListButton");
+    shell.trigger("deviceListButton");
     QTRY_VERIFY(shell.findItem("name", "HDMI Grabber #2") != nullptr);
     QCOMPARE(shell.sceneWarnings(), QStringList());
 }
@@ -91,7 +85,7 @@ void TestCaptureDevices::aClickChoosesTheDeviceAndIsRemembered()
     options.settingsPath = folder.filePath("settings.ini");
     {
         CaptureWindow shell(options);
-        click(shell, "deviceListButton");
+        shell.trigger("deviceListButton");
         QQuickItem *row = nullptr;
         QTRY_VERIFY((row = shell.findItem("name", "Logitech One #0")) != nullptr);
         QMetaObject::invokeMethod(row, "chosen");
@@ -110,7 +104,7 @@ void TestCaptureDevices::aClickChoosesTheDeviceAndIsRemembered()
 void TestCaptureDevices::anIndexCanBeTyped()
 {
     CaptureWindow shell;
-    click(shell, "deviceListButton");
+    shell.trigger("deviceListButton");
     QQuickItem *input = nullptr;
     QTRY_VERIFY((input = shell.control("deviceIndex")) != nullptr);
     QCOMPARE(input->property("minimum").toInt(), 0);
@@ -140,7 +134,7 @@ void TestCaptureDevices::emptyListSaysSo()
 {
     ShellWindow::Options options = CaptureWindow::options(Zum::CapturingDeviceCanonEOS);
     CaptureWindow shell(options);
-    click(shell, "deviceListButton");
+    shell.trigger("deviceListButton");
     QTRY_VERIFY(shell.findItem("title", "No Devices") != nullptr);
 }
 
@@ -153,11 +147,11 @@ void TestCaptureDevices::aFileBecomesACamera()
         QVERIFY(
             picture.save(shell.folder() + QStringLiteral("/still_%1.png").arg(i, 4, 10, QLatin1Char('0'))));
     }
-    click(shell, "deviceListButton");
+    shell.trigger("deviceListButton");
     QTRY_VERIFY(shell.control("addFileCamera") != nullptr);
     QCOMPARE(shell.control("addFileCamera")->property("text").toString(), "Add file as camera...");
     shell.dialogs().pathAnswers.append(shell.folder() + "/still_0000.png");
-    click(shell, "addFileCamera");
+    shell.trigger("addFileCamera");
     QTRY_COMPARE(shell.global().cameraName(), "still_0000.png #302");
     QQuickItem *row = nullptr;
     QTRY_VERIFY((row = shell.findItem("name", "still_0000.png #302")) != nullptr);
@@ -168,7 +162,7 @@ void TestCaptureDevices::aFileBecomesACamera()
     QVERIFY(shell.shoot());
     QCOMPARE(QImage(shell.pictureOf(0)).size(), QSize(64, 48));
     QVERIFY(shell.disconnectCamera());
-    click(shell, "deviceListButton");
+    shell.trigger("deviceListButton");
     QTRY_VERIFY((row = shell.findItem("name", "still_0000.png #302")) != nullptr);
     QMetaObject::invokeMethod(row, "removed");
     QTRY_VERIFY(shell.findItem("name", "still_0000.png #302") == nullptr);
@@ -178,14 +172,14 @@ void TestCaptureDevices::aFileBecomesACamera()
 void TestCaptureDevices::aFileOfNoUseIsRefused()
 {
     CaptureWindow shell;
-    click(shell, "deviceListButton");
+    shell.trigger("deviceListButton");
     QTRY_VERIFY(shell.control("addFileCamera") != nullptr);
     // Given up.
-    click(shell, "addFileCamera");
+    shell.trigger("addFileCamera");
     QCOMPARE(shell.global().camindex(), 301);
     QCOMPARE(shell.messages(), QStringList());
     shell.dialogs().pathAnswers.append(shell.window().projPath());
-    click(shell, "addFileCamera");
+    shell.trigger("addFileCamera");
     QCOMPARE(shell.global().camindex(), 301);
     QCOMPARE(shell.told("is neither a movie nor an image"), 1);
 }
@@ -221,7 +215,7 @@ void TestCaptureDevices::dialogIsNamedByTheKind()
 {
     {
         CaptureWindow shell;
-        click(shell, "deviceListButton");
+        shell.trigger("deviceListButton");
         QTRY_VERIFY(shell.findItem("heading", "Available Web Cameras and USB Video Capture Devices")
                     != nullptr);
     }
@@ -239,7 +233,7 @@ void TestCaptureDevices::deviceTypeAndIconFollowTheName()
     shell.global().setCameraName("AverMedia Live");
     QCOMPARE(shell.window().currentDeviceType(), int(Zum::CapturingDeviceHDMITethering));
     QCOMPARE(shell.control("deviceIcon")->property("icon").toString(), "images/dongle.svg");
-    click(shell, "deviceIcon");
+    shell.trigger("deviceIcon");
     QCOMPARE(shell.window().qmlDialogUrl(), "PropertiesDialog.qml");
 }
 
@@ -339,7 +333,7 @@ void TestCaptureDevices::dslrKindLeadsToWebCameras()
     CaptureWindow shell(CaptureWindow::options(Zum::CapturingDeviceCanonEOS));
     QObject *pause = shell.timer(1200);
     pause->setProperty("interval", 1);
-    click(shell, "useWebCameras");
+    shell.trigger("useWebCameras");
     QTRY_COMPARE(shell.evaluate("MainWindow.cameraQML.name").toString(), "web camera");
     QTRY_VERIFY(shell.control("resolution") != nullptr);
     QTRY_COMPARE(shell.global().cameraName(), "Demo Webcam #301");

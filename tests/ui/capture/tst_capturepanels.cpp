@@ -1,4 +1,5 @@
 #include "CaptureWindow.h"
+#include "support/ShownItems.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -43,23 +44,11 @@ private slots:
     void panelScrollsAtEveryFontSize();
 
 private:
-    static void click(CaptureWindow &shell, const char *name)
-    {
-        QQuickItem *item = shell.control(QString::fromLatin1(name));
-        QVERIFY2(item != nullptr, name);
-        QVERIFY(QMetaObject::invokeMethod(item, "clicked"));
-    }
     static void choose(CaptureWindow &shell, const char *name, int index)
     {
         QQuickItem *item = shell.control(QString::fromLatin1(name));
         QVERIFY2(item != nullptr, name);
         QVERIFY(QMetaObject::invokeMethod(item, "chosen", Q_ARG(int, index)));
-    }
-    static void allItems(QQuickItem *from, QList<QQuickItem *> &found)
-    {
-        found.append(from);
-        for (QQuickItem *child : from->childItems())
-            allItems(child, found);
     }
 };
 
@@ -100,7 +89,7 @@ void TestCapturePanels::resolutionAsksTheCameraAndShowsItsAnswer()
     shell.demo().setForcedSize({});
     QMetaObject::invokeMethod(box, "open");
     QTRY_VERIFY(shell.control("size 1920x1080") != nullptr);
-    click(shell, "size 1920x1080");
+    shell.trigger("size 1920x1080");
     QTRY_COMPARE(box->property("text").toString(), "1920x1080");
     QVERIFY(!box->property("opened").toBool());
     QVERIFY(shell.shoot());
@@ -192,7 +181,7 @@ void TestCapturePanels::readSettingsTurnsItsIconAndAsksTheCamera()
     CaptureWindow shell;
     QVERIFY(shell.connectCamera());
     QSignalSpy asked(&shell.global(), &WebcamGlobal::updateWebcamSettings);
-    click(shell, "readSettings");
+    shell.trigger("readSettings");
     QCOMPARE(asked.count(), 1);
     QTRY_COMPARE(shell.control("turningIcon")->rotation(), 180);
     QVERIFY(shell.control("cameraSettings") == nullptr);
@@ -265,7 +254,7 @@ void TestCapturePanels::slidersHaveTheirRanges()
 void TestCapturePanels::slidersSendAndFollow()
 {
     CaptureWindow shell;
-    click(shell, "cameraControls");
+    shell.trigger("cameraControls");
     QVERIFY(shell.connectCamera());
     QQuickItem *slider = shell.control(QStringLiteral("webcamSlider%1").arg(int(Zum::WebcamBrightness)));
     QSignalSpy sent(&shell.global(), &WebcamGlobal::webCameraProperty);
@@ -312,9 +301,9 @@ void TestCapturePanels::slidersFoldAway()
     CaptureWindow shell;
     const QString name = QStringLiteral("webcamSlider%1").arg(int(Zum::WebcamFocus));
     QVERIFY(shell.control(name) == nullptr);
-    click(shell, "cameraControls");
+    shell.trigger("cameraControls");
     QVERIFY(shell.control(name) != nullptr);
-    click(shell, "cameraControls");
+    shell.trigger("cameraControls");
     QVERIFY(shell.control(name) == nullptr);
 }
 
@@ -359,7 +348,7 @@ void TestCapturePanels::plainShotMakesOneFrameOnAFreshStart()
 void TestCapturePanels::prefixIsCleanedAndRemembered()
 {
     CaptureWindow shell;
-    click(shell, "cameraTab1");
+    shell.trigger("cameraTab1");
     shell.click(shell.control("useMask"));
     QVERIFY(shell.global().useFrameNameMask());
     QCOMPARE(shell.controllers().settings().value("useFrameNameMask").toString(), "true");
@@ -403,7 +392,7 @@ void TestCapturePanels::histogramFollowsTheLivePicture()
     QQuickItem *bars = shell.control("histogramY");
     QVERIFY(bars != nullptr);
     QTRY_COMPARE(bars->property("histogramData").toList().size(), 257);
-    click(shell, "histogramOn");
+    shell.trigger("histogramOn");
     QVERIFY(!shell.global().histogramOn());
     QVERIFY(!bars->property("running").toBool());
     QCOMPARE(shell.sceneWarnings(), QStringList());
@@ -412,7 +401,7 @@ void TestCapturePanels::histogramFollowsTheLivePicture()
 void TestCapturePanels::histogramChannelsAreRemembered()
 {
     CaptureWindow shell;
-    click(shell, "channelR");
+    shell.trigger("channelR");
     QCOMPARE(shell.controllers().settings().value("histogramRChannelOn").toString(), "false");
     QVERIFY(shell.control("histogramR") == nullptr);
     QVERIFY(shell.control("histogramG") != nullptr);
@@ -422,7 +411,7 @@ void TestCapturePanels::frameIsDrawnAroundTheMiddle()
 {
     CaptureWindow shell;
     QVERIFY(shell.connectCamera());
-    click(shell, "drawFrame");
+    shell.trigger("drawFrame");
     QTRY_VERIFY(shell.control("cropAreaMouse") != nullptr);
     QVERIFY(shell.settle());
     auto *device = shell.window().capturingDeviceObject().value<QQuickItem *>();
@@ -447,7 +436,7 @@ void TestCapturePanels::escapeLeavesTheFrameAsItWas()
 {
     CaptureWindow shell;
     QVERIFY(shell.connectCamera());
-    click(shell, "drawFrame");
+    shell.trigger("drawFrame");
     QVERIFY(shell.evaluate("choosingCropArea").toBool());
     shell.press(Qt::Key_Escape);
     QVERIFY(!shell.evaluate("choosingCropArea").toBool());
@@ -458,7 +447,7 @@ void TestCapturePanels::eyedropperShowsTheColourUnderThePointer()
 {
     CaptureWindow shell;
     QVERIFY(shell.connectCamera());
-    click(shell, "eyedropper");
+    shell.trigger("eyedropper");
     QVERIFY(shell.global().eyedropperOn());
     auto *device = shell.window().capturingDeviceObject().value<QQuickItem *>();
     // The curtain is red.
@@ -518,24 +507,22 @@ void TestCapturePanels::wakeButtonGoesOnWithTheLiveView()
 void TestCapturePanels::everyControlHasAToolTipAndAName()
 {
     CaptureWindow shell;
-    click(shell, "cameraControls");
+    shell.trigger("cameraControls");
     QVERIFY(shell.connectCamera());
     for (int tab = 0; tab < 3; ++tab) {
-        click(shell, qPrintable(QStringLiteral("cameraTab%1").arg(tab)));
-        QList<QQuickItem *> items;
-        allItems(shell.item("controlsPanesBox"), items);
+        shell.trigger(qPrintable(QStringLiteral("cameraTab%1").arg(tab)));
         int controls = 0;
-        for (const QQuickItem *item : std::as_const(items)) {
+        shownItems::visit(shell.item("controlsPanesBox"), [&](QQuickItem *item) {
             const QByteArray type = item->metaObject()->className();
             const bool isControl = type.startsWith("CheckButton") || type.startsWith("IconButton")
                                    || type.startsWith("SliderNew") || type.startsWith("WebcamSlider_")
                                    || type.startsWith("NumberInput4") || type.startsWith("ChoiceRow");
-            if (!isControl || !item->isVisible())
-                continue;
+            if (!isControl)
+                return;
             ++controls;
             const QString what = QString::fromLatin1(type) + item->objectName();
             QVERIFY2(!item->property("toolTip").toString().isEmpty(), qPrintable(what));
-        }
+        });
         QVERIFY(controls > 8);
     }
 }
@@ -554,7 +541,7 @@ void TestCapturePanels::panelScrollsAtEveryFontSize()
     options.size = {1024, 600};
     options.settings.insert("fontsize", font);
     CaptureWindow shell(options);
-    click(shell, "cameraControls");
+    shell.trigger("cameraControls");
     QVERIFY(shell.settle());
     QQuickItem *box = shell.item("controlsPanesBox");
     QVERIFY(box->width() <= 0.36 * 1024 + 1);
@@ -562,16 +549,14 @@ void TestCapturePanels::panelScrollsAtEveryFontSize()
     for (QQuickItem *child : box->childItems())
         flick = child->inherits("QQuickFlickable") ? child : flick;
     QVERIFY(flick != nullptr);
-    QList<QQuickItem *> items;
-    allItems(flick, items);
     // Nothing reaches over the side, where it could not be scrolled to.
-    for (const QQuickItem *item : std::as_const(items)) {
-        if (!item->isVisible() || item->width() < 1 || item->inherits("QQuickText"))
-            continue;
+    shownItems::visit(flick, [flick](QQuickItem *item) {
+        if (item->width() < 1 || item->inherits("QQuickText"))
+            return;
         const qreal right = item->mapToItem(flick, QPointF(item->width(), 0)).x();
         QVERIFY2(right <= flick->width() + 1,
                  qPrintable(QString::fromLatin1(item->metaObject()->className()) + item->objectName()));
-    }
+    });
     QCOMPARE(shell.sceneWarnings(), QStringList());
 }
 

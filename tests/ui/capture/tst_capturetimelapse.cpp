@@ -1,4 +1,5 @@
 #include "CaptureWindow.h"
+#include "support/HandTicker.h"
 
 #include <QTest>
 
@@ -20,24 +21,6 @@ private slots:
     void timeLapseSettingsAreKeptWithTheProject();
 
 private:
-    struct HandTicker : Ticker
-    {
-        int interval = 0;
-        bool running = false;
-        void start(int intervalMs) override
-        {
-            interval = intervalMs;
-            running = true;
-        }
-        void stop() override
-        {
-            running = false;
-        }
-        bool isActive() const override
-        {
-            return running;
-        }
-    };
     /// A window whose time-lapse tool ticks by hand.
     ShellWindow::Options handDriven()
     {
@@ -49,17 +32,19 @@ private:
         };
         return options;
     }
-    static void click(CaptureWindow &shell, const char *name)
+    /// Connects the camera and starts; the first shot comes at once.
+    static bool startShooting(CaptureWindow &shell)
     {
-        QQuickItem *item = shell.control(QString::fromLatin1(name));
-        QVERIFY2(item != nullptr, name);
-        QVERIFY(QMetaObject::invokeMethod(item, "clicked"));
+        if (!shell.connectCamera())
+            return false;
+        shell.controllers().timeLapse.start();
+        return QTest::qWaitFor([&] { return shell.framesNow() == 1; });
     }
     /// The next tick, once what the last one began has had its turn.
     void tick()
     {
         QCoreApplication::processEvents();
-        emit ticker->ticked();
+        ticker->tick();
     }
 
     HandTicker *ticker = nullptr;
@@ -68,7 +53,7 @@ private:
 void TestCaptureTimeLapse::timeLapseShootsByTheClock()
 {
     CaptureWindow shell(handDriven());
-    click(shell, "cameraTab2");
+    shell.trigger("cameraTab2");
     QQuickItem *start = shell.control("startTimeLapse");
     QVERIFY(start != nullptr);
     QVERIFY(!start->property("active").toBool());
@@ -89,7 +74,7 @@ void TestCaptureTimeLapse::timeLapseShootsByTheClock()
     QVERIFY(shell.control("timeLapseProgress") != nullptr);
     shell.click(start);
     QVERIFY(!shell.global().zeitRafferRunning());
-    QVERIFY(!ticker->running);
+    QVERIFY(!ticker->isActive());
     QCOMPARE(shell.told("Time-Lapse Photography: Time-lapse photography tool stopped"), 1);
     QTRY_COMPARE(shell.framesInProjectFile(), 4);
 }
@@ -108,7 +93,7 @@ void TestCaptureTimeLapse::timeLapseUnitsCutTheTimes()
 {
     QFETCH(int, unit);
     CaptureWindow shell(handDriven());
-    click(shell, "cameraTab2");
+    shell.trigger("cameraTab2");
     QQuickItem *units = shell.control("timeUnit");
     QQuickItem *times = shell.control("timesPer");
     QCOMPARE(times->property("value").toInt(), 7);
@@ -139,9 +124,7 @@ void TestCaptureTimeLapse::timeLapseBlocksTheOtherTabs()
 void TestCaptureTimeLapse::timeLapseStopsWhenAShotTakesTooLong()
 {
     CaptureWindow shell(handDriven());
-    QVERIFY(shell.connectCamera());
-    shell.controllers().timeLapse.start();
-    QTRY_COMPARE(shell.framesNow(), 1);
+    QVERIFY(startShooting(shell));
     shell.global().setCapturingInprogress(1);
     tick();
     QVERIFY(!shell.global().zeitRafferRunning());
@@ -152,9 +135,7 @@ void TestCaptureTimeLapse::timeLapseStopsWhenAShotTakesTooLong()
 void TestCaptureTimeLapse::timeLapseStopsWhenTheCameraIsLetGo()
 {
     CaptureWindow shell(handDriven());
-    QVERIFY(shell.connectCamera());
-    shell.controllers().timeLapse.start();
-    QTRY_COMPARE(shell.framesNow(), 1);
+    QVERIFY(startShooting(shell));
     QVERIFY(shell.disconnectCamera());
     QVERIFY(!shell.global().zeitRafferRunning());
     QCOMPARE(shell.told("Time-lapse photography tool stopped"), 1);
@@ -163,9 +144,7 @@ void TestCaptureTimeLapse::timeLapseStopsWhenTheCameraIsLetGo()
 void TestCaptureTimeLapse::timeLapseGoesOnWhenItsCameraComesBack()
 {
     CaptureWindow shell(handDriven());
-    QVERIFY(shell.connectCamera());
-    shell.controllers().timeLapse.start();
-    QTRY_COMPARE(shell.framesNow(), 1);
+    QVERIFY(startShooting(shell));
     shell.demo().setPresent(false);
     QTRY_VERIFY(!shell.global().connected());
     QVERIFY(shell.global().zeitRafferRunning());
@@ -185,9 +164,7 @@ void TestCaptureTimeLapse::timeLapseGoesOnWhenItsCameraComesBack()
 void TestCaptureTimeLapse::timeLapseGivesUpOnALostCamera()
 {
     CaptureWindow shell(handDriven());
-    QVERIFY(shell.connectCamera());
-    shell.controllers().timeLapse.start();
-    QTRY_COMPARE(shell.framesNow(), 1);
+    QVERIFY(startShooting(shell));
     shell.demo().setPresent(false);
     QTRY_VERIFY(!shell.global().connected());
     for (int i = 0; i < 3; ++i)

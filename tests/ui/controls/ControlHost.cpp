@@ -223,3 +223,21 @@ QStringList cutTexts(const QQuickItem *item)
     collectCutTexts(item, cut);
     return cut;
 }
+
+QRectF sceneRect(const QQuickItem *item)
+{
+    return item->mapRectToScene(QRectF(QPointF(), item->size()));
+}
+
+void addCorners()
+{
+    QTest::addColumn<QString>("anchors");
+    QTest::addColumn<int>("row");
+    for (const int row : {0, 8}) {
+        for (const char *vertical : {"top", "bottom"}) {
+            for (const char *side : {"left", "right"})
+                QTest::addRow("%s %s, font index %d", vertical, side, row)
+                    << QString("anchors.%1: parent.%1; anchors.%2: parent.%2").arg(vertical, side) << row;
+        }
+    }
+}

@@ -63,3 +63,9 @@ QQuickItem *accessiblePart(QQuickItem *item);
 
 /// Every text below the item that is cut off, with an ellipsis or by its box.
 QStringList cutTexts(const QQuickItem *item);
+
+QRectF sceneRect(const QQuickItem *item);
+
+/// Test data: each corner of the window at the smallest and the largest font, as "anchors" of an item and
+/// "row" of the font table.
+void addCorners();

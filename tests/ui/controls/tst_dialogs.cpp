@@ -40,11 +40,6 @@ QString longDialog(int rows)
         .arg(rows);
 }
 
-QRectF sceneRect(const QQuickItem *item)
-{
-    return item->mapRectToScene(QRectF(QPointF(), item->size()));
-}
-
 } // namespace
 
 void TestDialogs::dialogIsAsWideAsDialogsAre()

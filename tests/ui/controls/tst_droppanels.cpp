@@ -49,11 +49,6 @@ bool isOpen(const QQuickItem *button)
     return button->property("opened").toBool();
 }
 
-QRectF sceneRect(const QQuickItem *item)
-{
-    return item->mapRectToScene(QRectF(QPointF(), item->size()));
-}
-
 } // namespace
 
 void TestDropPanels::clickOpensAndClosesThePanel_data()
@@ -148,15 +143,7 @@ void TestDropPanels::rowClosesAfterAChoice()
 
 void TestDropPanels::panelStaysInTheWindow_data()
 {
-    QTest::addColumn<QString>("anchors");
-    QTest::addColumn<int>("row");
-    for (const int row : {0, 8}) {
-        for (const char *vertical : {"top", "bottom"}) {
-            for (const char *side : {"left", "right"})
-                QTest::addRow("%s %s, font index %d", vertical, side, row)
-                    << QString("anchors.%1: parent.%1; anchors.%2: parent.%2").arg(vertical, side) << row;
-        }
-    }
+    addCorners();
 }
 
 void TestDropPanels::panelStaysInTheWindow()

@@ -158,15 +158,7 @@ void TestToolTips::staysAwayWhenSwitchedOff()
 
 void TestToolTips::neverLeavesTheWindow_data()
 {
-    QTest::addColumn<QString>("anchors");
-    QTest::addColumn<int>("row");
-    for (const int row : {0, 8}) {
-        for (const char *vertical : {"top", "bottom"}) {
-            for (const char *side : {"left", "right"})
-                QTest::addRow("%s %s, font index %d", vertical, side, row)
-                    << QString("anchors.%1: parent.%1; anchors.%2: parent.%2").arg(vertical, side) << row;
-        }
-    }
+    addCorners();
 }
 
 void TestToolTips::neverLeavesTheWindow()

@@ -1,5 +1,7 @@
 #include "ui/dialogs/DialogHost.h"
 
+#include "support/ShownItems.h"
+
 #include <QQmlContext>
 #include <QtTest>
 
@@ -29,22 +31,6 @@ SceneProject {
     KeyShortcuts { id: keyHandler; objectName: "keyHandler"; scene: appWindow }
 }
 )";
-
-template <typename Visit>
-void visitShown(QQuickItem *item, const Visit &visit)
-{
-    if (!item || !item->isVisible())
-        return;
-    visit(item);
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children)
-        visitShown(child, visit);
-}
-
-bool isText(const QQuickItem *item)
-{
-    return item->inherits("QQuickText") && !item->property("text").toString().isEmpty();
-}
 
 } // namespace
 
@@ -122,7 +108,7 @@ QQuickItem *DialogHost::part(const QString &objectName) const
 QList<QQuickItem *> DialogHost::parts(const QString &objectName) const
 {
     QList<QQuickItem *> found;
-    visitShown(dialog(), [&](QQuickItem *item) {
+    shownItems::visit(dialog(), [&](QQuickItem *item) {
         if (item->objectName() == objectName)
             found.append(item);
     });
@@ -132,7 +118,7 @@ QList<QQuickItem *> DialogHost::parts(const QString &objectName) const
 QQuickItem *DialogHost::editor(const QString &partName) const
 {
     QQuickItem *found = nullptr;
-    visitShown(part(partName), [&](QQuickItem *item) {
+    shownItems::visit(part(partName), [&](QQuickItem *item) {
         if (item->inherits("QQuickTextInput"))
             found = item;
     });
@@ -141,12 +127,7 @@ QQuickItem *DialogHost::editor(const QString &partName) const
 
 QStringList DialogHost::texts() const
 {
-    QStringList all;
-    visitShown(dialog(), [&](QQuickItem *item) {
-        if (isText(item))
-            all.append(item->property("text").toString());
-    });
-    return all;
+    return shownItems::texts(dialog());
 }
 
 void DialogHost::scrollTo(QQuickItem *item)
@@ -171,8 +152,8 @@ void DialogHost::click(const QString &objectName)
 QQuickItem *DialogHost::textItem(const QString &text, const QString &partName) const
 {
     QQuickItem *found = nullptr;
-    visitShown(partName.isEmpty() ? dialog() : part(partName), [&](QQuickItem *item) {
-        if (!found && isText(item) && item->property("text").toString() == text)
+    shownItems::visit(partName.isEmpty() ? dialog() : part(partName), [&](QQuickItem *item) {
+        if (!found && shownItems::isText(item) && item->property("text").toString() == text)
             found = item;
     });
     return found;
@@ -187,18 +168,10 @@ void DialogHost::clickText(const QString &text)
 
 QStringList DialogHost::textsOutside() const
 {
-    QStringList outside;
+    QStringList outside = shownItems::textsOutside(dialog());
     const QRectF box = dialog()->mapRectToScene(dialog()->boundingRect());
     if (!QRectF(QPointF(0, 0), host.root()->size()).contains(box))
-        outside.append(dialog()->property("heading").toString());
-    visitShown(dialog(), [&](QQuickItem *item) {
-        if (!isText(item))
-            return;
-        const qreal wanted = item->property("contentWidth").toReal();
-        const QRectF area = item->mapRectToScene(item->boundingRect());
-        if (wanted > item->width() + 1 || area.left() < box.left() || area.right() > box.right())
-            outside.append(item->property("text").toString());
-    });
+        outside.prepend(dialog()->property("heading").toString());
     return outside;
 }
 

@@ -1,18 +1,14 @@
-#include "DisplayWindow.h"
-
-#include <QTest>
+#include "DisplayTest.h"
 
 /// The layers of the Capture tab's view: which lies on top, how opaque and how large each is, what lies in
 /// them and when they rest.
-class TestDisplayLayers : public QObject
+class TestDisplayLayers : public DisplayTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
     void init();
-    void cleanup();
-    void cleanupTestCase();
 
     void orderFollowsTheTabs_data();
     void orderFollowsTheTabs();
@@ -49,20 +45,10 @@ private slots:
     void projectWithoutFramesSaysWhatIsNext();
 
 private:
-    WebcamGlobal &global()
-    {
-        return m_film->global();
-    }
-    FramesModel &frames()
-    {
-        return m_film->frames();
-    }
     /// The colour of the view beside its middle, once it is that one.
     bool shows(const QColor &color, QPointF place = {0.3, 0.3})
     {
-        return QTest::qWaitFor(
-            [=, this] { return DisplayWindow::near(m_film->colorAt(m_film->cameraBox(), place), color); },
-            3000);
+        return DisplayTest::shows(m_film->cameraBox(), color, place);
     }
     void fresh(int rows = 3)
     {
@@ -71,8 +57,6 @@ private:
         QVERIFY(rows == 0 || m_film->waitForPictures());
         global().setCropAreaOn(false);
     }
-
-    std::unique_ptr<DisplayWindow> m_film;
 };
 
 namespace {
@@ -116,16 +100,6 @@ void TestDisplayLayers::init()
     global().setReferenceImageScale(100);
     global().setCamboxState("liveViewPreviewIsOn");
     frames().setCurrentIndex(0);
-}
-
-void TestDisplayLayers::cleanup()
-{
-    QCOMPARE(m_film->warnings(), QStringList());
-}
-
-void TestDisplayLayers::cleanupTestCase()
-{
-    m_film.reset();
 }
 
 void TestDisplayLayers::orderFollowsTheTabs_data()

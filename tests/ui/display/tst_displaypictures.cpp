@@ -1,12 +1,11 @@
-#include "DisplayWindow.h"
+#include "DisplayTest.h"
 
 #include <QDir>
 #include <QPainter>
-#include <QTest>
 
 /// The view's pictures in each state against stored ones. Run with MORVANE_RENEW_PICTURES=1 to store them
 /// anew, and look at each.
-class TestDisplayPictures : public QObject
+class TestDisplayPictures : public DisplayTest
 {
     Q_OBJECT
 
@@ -15,13 +14,10 @@ private slots:
     void composition_data();
     void composition();
     void timing();
-    void cleanupTestCase();
 
 private:
     void compare(QQuickItem *item, const QString &name);
     static QImage scene(const QColor &ground, const QColor &ball, qreal x);
-
-    std::unique_ptr<DisplayWindow> m_film;
 };
 
 /// A ball in front of a ground that gets darker to the right.
@@ -56,12 +52,6 @@ void TestDisplayPictures::initTestCase()
     m_film->global().setTechInfoOn(false);
     m_film->global().setCropAreaOn(false);
     QVERIFY(m_film->waitForPictures());
-}
-
-void TestDisplayPictures::cleanupTestCase()
-{
-    QCOMPARE(m_film->warnings(), QStringList());
-    m_film.reset();
 }
 
 void TestDisplayPictures::compare(QQuickItem *item, const QString &name)
@@ -101,9 +91,6 @@ void TestDisplayPictures::composition_data()
 {
     QTest::addColumn<QVariantMap>("settings");
     using Map = QVariantMap;
-    const char *live = "liveViewPreviewIsOn";
-    const char *captured = "capturePreviewIsOn";
-    const char *reference = "referencePreviewIsOn";
     QTest::newRow("live") << Map{{"camboxState", live}};
     QTest::newRow("live-with-device")
         << Map{{"camboxState", live}, {"connected", true}, {"opacityLiveView", 60}};
@@ -141,7 +128,7 @@ void TestDisplayPictures::composition()
     for (auto it = before.cbegin(); it != before.cend(); ++it)
         global.setProperty(it.key().toLatin1().constData(), it.value());
     global.setStackMode(Zum::NoStack);
-    global.setCamboxState("liveViewPreviewIsOn");
+    global.setCamboxState(live);
 }
 
 void TestDisplayPictures::timing()

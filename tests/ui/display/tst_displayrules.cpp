@@ -1,17 +1,13 @@
-#include "DisplayWindow.h"
-
-#include <QTest>
+#include "DisplayTest.h"
 
 /// What excludes what in the view of the Capture tab: each rule by name, in the whole program.
-class TestDisplayRules : public QObject
+class TestDisplayRules : public DisplayTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
     void init();
-    void cleanup();
-    void cleanupTestCase();
 
     void blendTurnsOffGrayscaleEyedropperAndFlipFlop();
     void noBlendTurnsNothingOff();
@@ -44,24 +40,11 @@ private slots:
     void startWithOneRowHidesTheReference();
 
 private:
-    WebcamGlobal &global()
-    {
-        return m_film->global();
-    }
-    FramesModel &frames()
-    {
-        return m_film->frames();
-    }
     void startFlipFlop(int type = Zum::FadeFlipFlop)
     {
         global().setFlipFlop(type);
         QVERIFY(global().flipFlopRunning());
     }
-
-    std::unique_ptr<DisplayWindow> m_film;
-    const QString live = QStringLiteral("liveViewPreviewIsOn");
-    const QString captured = QStringLiteral("capturePreviewIsOn");
-    const QString reference = QStringLiteral("referencePreviewIsOn");
 };
 
 void TestDisplayRules::initTestCase()
@@ -81,16 +64,6 @@ void TestDisplayRules::init()
     global().setConnected(false);
     frames().setDoubleDecker(true);
     global().setCamboxState(live);
-}
-
-void TestDisplayRules::cleanup()
-{
-    QCOMPARE(m_film->warnings(), QStringList());
-}
-
-void TestDisplayRules::cleanupTestCase()
-{
-    m_film.reset();
 }
 
 void TestDisplayRules::blendTurnsOffGrayscaleEyedropperAndFlipFlop()

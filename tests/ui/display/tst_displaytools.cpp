@@ -1,18 +1,14 @@
-#include "DisplayWindow.h"
-
-#include <QTest>
+#include "DisplayTest.h"
 
 /// The tabs below the picture and the tools beside it: what they set, what they say, and how they are
 /// reached.
-class TestDisplayTools : public QObject
+class TestDisplayTools : public DisplayTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
     void init();
-    void cleanup();
-    void cleanupTestCase();
 
     void tabsAreClicked();
     void clickedTabShowsAsOpen();
@@ -46,10 +42,6 @@ private slots:
     void pictureIsTheLargestThing();
 
 private:
-    WebcamGlobal &global()
-    {
-        return m_film->global();
-    }
     QQuickItem *column()
     {
         return m_film->item("screenControls");
@@ -78,11 +70,6 @@ private:
         item->forceActiveFocus(Qt::TabFocusReason);
         m_film->press(key);
     }
-
-    std::unique_ptr<DisplayWindow> m_film;
-    const QString live = QStringLiteral("liveViewPreviewIsOn");
-    const QString captured = QStringLiteral("capturePreviewIsOn");
-    const QString reference = QStringLiteral("referencePreviewIsOn");
 };
 
 void TestDisplayTools::initTestCase()
@@ -106,16 +93,6 @@ void TestDisplayTools::init()
     m_film->frames().setDoubleDecker(true);
     global().setCamboxState(live);
     m_film->frames().setCurrentIndex(0);
-}
-
-void TestDisplayTools::cleanup()
-{
-    QCOMPARE(m_film->warnings(), QStringList());
-}
-
-void TestDisplayTools::cleanupTestCase()
-{
-    m_film.reset();
 }
 
 void TestDisplayTools::tabsAreClicked()
@@ -419,13 +396,13 @@ void TestDisplayTools::referenceSizeIsSet()
 void TestDisplayTools::zoomIsChosen()
 {
     open("Zoom");
-    m_film->click(inPanel("toolTip", "Larger [Wheel]"));
+    m_film->click(inPanel("toolTip", "Zoom in [Wheel]"));
     QCOMPARE(global().camScaleFactor(), 1.2);
-    m_film->click(inPanel("toolTip", "Smaller [Wheel]"));
+    m_film->click(inPanel("toolTip", "Zoom out [Wheel]"));
     QCOMPARE(global().camScaleFactor(), 1.0);
     m_film->click(inPanel("text", "Pixels"));
     QCOMPARE(global().camScaleFactor(), 1 / global().coordSystemScale());
-    m_film->click(inPanel("text", "Fit"));
+    m_film->click(inPanel("toolTip", "Show the whole picture [Double click]"));
     QCOMPARE(global().camScaleFactor(), 1.0);
 }
 

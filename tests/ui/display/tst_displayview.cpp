@@ -1,19 +1,16 @@
-#include "DisplayWindow.h"
+#include "DisplayTest.h"
 
-#include <QTest>
 #include <QWheelEvent>
 
 /// The box that the view lies in, and the helper lines over it: zooming and moving with the mouse, and lines
 /// that stay thin.
-class TestDisplayView : public QObject
+class TestDisplayView : public DisplayTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
     void init();
-    void cleanup();
-    void cleanupTestCase();
 
     void wheelZoomsAroundThePointer();
     void wheelRestsAtTheFittingSize();
@@ -46,10 +43,6 @@ private slots:
     void noLinesWithoutBeingSwitchedOn();
 
 private:
-    WebcamGlobal &global()
-    {
-        return m_film->global();
-    }
     QPointF pictureMiddle() const
     {
         return m_film->cameraBox()->mapToScene(
@@ -76,8 +69,6 @@ private:
     }
     /// The pixels of a row of the view that are greener than the frame.
     QList<int> greenColumns(const QImage &shot, int y) const;
-
-    std::unique_ptr<DisplayWindow> m_film;
 };
 
 void TestDisplayView::initTestCase()
@@ -99,16 +90,6 @@ void TestDisplayView::init()
         global().setProperty(line, false);
     global().setTechInfoOn(true);
     QVERIFY(m_film->waitForPictures());
-}
-
-void TestDisplayView::cleanup()
-{
-    QCOMPARE(m_film->warnings(), QStringList());
-}
-
-void TestDisplayView::cleanupTestCase()
-{
-    m_film.reset();
 }
 
 QList<int> TestDisplayView::greenColumns(const QImage &shot, int y) const

@@ -1,18 +1,15 @@
-#include "DisplayWindow.h"
+#include "DisplayTest.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 /// What the view does with several frames: the onion skin, and the flip-flop against the live picture.
-class TestOnionAndFlip : public QObject
+class TestOnionAndFlip : public DisplayTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
     void init();
-    void cleanup();
-    void cleanupTestCase();
 
     void stackRows_data();
     void stackRows();
@@ -41,14 +38,6 @@ private slots:
     void changedTypeStartsAnew();
 
 private:
-    WebcamGlobal &global()
-    {
-        return m_film->global();
-    }
-    FramesModel &frames()
-    {
-        return m_film->frames();
-    }
     QVariant layers(const QString &expression)
     {
         return m_film->layers(expression);
@@ -69,8 +58,6 @@ private:
     {
         return layers(QString::fromLatin1(layer) + ".opacity").toReal();
     }
-
-    std::unique_ptr<DisplayWindow> m_film;
 };
 
 void TestOnionAndFlip::initTestCase()
@@ -91,16 +78,6 @@ void TestOnionAndFlip::init()
     frames().setDoubleDecker(true);
     frames().setCurrentIndex(0);
     global().setCamboxState("liveViewPreviewIsOn");
-}
-
-void TestOnionAndFlip::cleanup()
-{
-    QCOMPARE(m_film->warnings(), QStringList());
-}
-
-void TestOnionAndFlip::cleanupTestCase()
-{
-    m_film.reset();
 }
 
 /// Of the stack's pictures from below, by the order in which they are drawn.

@@ -1,17 +1,13 @@
-#include "DisplayWindow.h"
-
-#include <QTest>
+#include "DisplayTest.h"
 
 /// The view of the Timing tab: the picture that plays, its size, its cache and what stands around it.
-class TestTimingDisplay : public QObject
+class TestTimingDisplay : public DisplayTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
     void init();
-    void cleanup();
-    void cleanupTestCase();
 
     void picture_data();
     void picture();
@@ -34,14 +30,6 @@ private slots:
     void playedFramesAreSeen();
 
 private:
-    WebcamGlobal &global()
-    {
-        return m_film->global();
-    }
-    FramesModel &frames()
-    {
-        return m_film->frames();
-    }
     QQuickItem *ramView()
     {
         return m_film->timingDisplay()->property("ramView").value<QQuickItem *>();
@@ -56,18 +44,12 @@ private:
     }
     bool shows(const QColor &color)
     {
-        return QTest::qWaitFor(
-            [=, this] {
-                return DisplayWindow::near(m_film->colorAt(ramView(), {0.3, 0.3}), color);
-            },
-            3000);
+        return DisplayTest::shows(ramView(), color);
     }
     QObject *size()
     {
         return m_film->evaluate("screenArea.timingSize").value<QObject *>();
     }
-
-    std::unique_ptr<DisplayWindow> m_film;
 };
 
 void TestTimingDisplay::initTestCase()
@@ -87,16 +69,6 @@ void TestTimingDisplay::init()
     global().setRamScaleFactor(1);
     global().setForegroundOpacity(1);
     global().setRamHistogramOn(false);
-}
-
-void TestTimingDisplay::cleanup()
-{
-    QCOMPARE(m_film->warnings(), QStringList());
-}
-
-void TestTimingDisplay::cleanupTestCase()
-{
-    m_film.reset();
 }
 
 void TestTimingDisplay::picture_data()

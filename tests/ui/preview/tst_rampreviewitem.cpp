@@ -1,47 +1,20 @@
-#include "preview/PreviewWorld.h"
-#include "preview/RamPreview.h"
-
-#include <QQuickWindow>
-#include <QSignalSpy>
+#include "preview/PreviewWindow.h"
 
 namespace {
 
 /// A preview that fills a window of the screen.
-class OnScreen
+class OnScreen : public PreviewWindow
 {
 public:
-    OnScreen()
+    OnScreen() : PreviewWindow({200, 100})
     {
-        Zum::setProjectFolders({world.root(), world.captured(), world.reference(), {}, {}});
-        item = new RamPreview(window.contentItem());
-        item->setPlayingCaptured(true);
-        item->setScaleFactor(0);
         item->setCameraViewWidth(200);
         item->setCameraViewHeight(100);
-        window.resize(200, 100);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-    }
-    ~OnScreen()
-    {
-        delete item;
-        Zum::setProjectFolders({});
-    }
-
-    void show(const QString &name)
-    {
-        const QSignalSpy painted(item, &RamPreview::newPicRendered);
-        item->setImageName(name);
-        QTRY_VERIFY(!painted.isEmpty());
     }
     QColor at(int x, int y)
     {
         return window.grabWindow().pixelColor(x, y);
     }
-
-    PreviewWorld world;
-    QQuickWindow window;
-    RamPreview *item = nullptr;
 };
 
 } // namespace

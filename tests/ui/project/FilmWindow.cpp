@@ -1,8 +1,8 @@
 #include "ui/project/FilmWindow.h"
 
 #include "project/ProjectReader.h"
+#include "support/ShownItems.h"
 
-#include <functional>
 #include <QCryptographicHash>
 #include <QDirIterator>
 #include <QImage>
@@ -16,17 +16,6 @@ QString rowText(const QString &picture, bool mirrored, bool hidden)
 {
     const QString number = picture.isEmpty() ? u"-"_s : QString::number(picture.section(u'_', 2, 2).toInt());
     return number + (mirrored ? u"m"_s : QString()) + (hidden ? u"h"_s : QString());
-}
-
-/// Calls `visit` for the item and all below it that show.
-void forEachShown(QQuickItem *item, const std::function<void(QQuickItem *)> &visit)
-{
-    if (!item->isVisible())
-        return;
-    visit(item);
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children)
-        forEachShown(child, visit);
 }
 
 bool isOfType(const QObject *object, const char *type)
@@ -100,7 +89,7 @@ void FilmWindow::chooseInMenu(const QString &text)
 {
     clickTip(u"Main menu"_s);
     QQuickItem *entry = nullptr;
-    forEachShown(m_shell->window().contentItem(), [&](QQuickItem *item) {
+    shownItems::visit(m_shell->window().contentItem(), [&](QQuickItem *item) {
         if (isOfType(item, "MenuRow") && item->property("text") == text)
             entry = item;
     });
@@ -157,10 +146,10 @@ QStringList FilmWindow::selectedOnStrip()
 int FilmWindow::thumbnailsOnStrip()
 {
     int shown = 0;
-    forEachShown(m_shell->window().contentItem(), [&](QQuickItem *item) {
+    shownItems::visit(m_shell->window().contentItem(), [&](QQuickItem *item) {
         if (!isOfType(item, "TimelineFrame"))
             return;
-        forEachShown(item, [&](QQuickItem *child) {
+        shownItems::visit(item, [&](QQuickItem *child) {
             constexpr int ready = 1;
             if (child->inherits("QQuickImage") && child->property("status").toInt() == ready
                 && child->property("source").toUrl().isLocalFile())
@@ -209,30 +198,15 @@ void FilmWindow::clickItem(const char *property, const QString &value)
 {
     QQuickItem *item = m_shell->findItem(property, value);
     QVERIFY2(item != nullptr, qPrintable(value));
-    bringIntoSight(item);
+    shownItems::bringIntoSight(item);
     m_shell->click(item);
-}
-
-// Scrolls what holds the item, as the wheel would.
-void FilmWindow::bringIntoSight(QQuickItem *item)
-{
-    for (QQuickItem *above = item->parentItem(); above != nullptr; above = above->parentItem()) {
-        if (!above->inherits("QQuickFlickable") || above->height() <= 0)
-            continue;
-        const double bottom = item->mapToItem(above, QPointF(0, item->height())).y();
-        if (bottom > above->height())
-            above->setProperty("contentY", above->property("contentY").toDouble() + bottom - above->height());
-    }
 }
 
 QQuickItem *FilmWindow::frameItem(int row)
 {
-    QQuickItem *found = nullptr;
-    forEachShown(m_shell->window().contentItem(), [&](QQuickItem *item) {
-        if (isOfType(item, "TimelineFrame") && item->property("index") == row)
-            found = item;
+    return shownItems::find(m_shell->window().contentItem(), [row](QQuickItem *item) {
+        return isOfType(item, "TimelineFrame") && item->property("index") == row;
     });
-    return found;
 }
 
 QPoint FilmWindow::middleOf(QQuickItem *item)
@@ -266,12 +240,9 @@ void FilmWindow::typeInto(const QString &label, const QString &text)
 {
     QQuickItem *field = m_shell->findItem("label", label);
     QVERIFY2(field != nullptr, qPrintable(label));
-    bringIntoSight(field);
-    QQuickItem *editor = nullptr;
-    forEachShown(field, [&](QQuickItem *item) {
-        if (item->inherits("QQuickTextInput"))
-            editor = item;
-    });
+    shownItems::bringIntoSight(field);
+    QQuickItem *editor =
+        shownItems::find(field, [](QQuickItem *item) { return item->inherits("QQuickTextInput"); });
     QVERIFY(editor != nullptr);
     m_shell->click(editor);
     QTRY_VERIFY(editor->hasActiveFocus());

@@ -85,7 +85,6 @@ private:
     QQuickItem *frameItem(int row);
     static QPoint middleOf(QQuickItem *item);
     void clickItem(const char *property, const QString &value);
-    static void bringIntoSight(QQuickItem *item);
 
     QTemporaryDir m_folder;
     std::unique_ptr<ShellWindow> m_shell;

@@ -1,38 +1,11 @@
 #include "project/ProcessMark.h"
 #include "project/ProjectLock.h"
+#include "support/FullDisk.h"
 #include "ui/project/FilmWindow.h"
 
-#include <sys/resource.h>
 #include <unistd.h>
-#include <csignal>
 #include <QTest>
 #include <QThreadPool>
-
-namespace {
-
-/// While it lives, no file of this process can grow past a few bytes, as on a full disk.
-class NoRoom
-{
-public:
-    NoRoom() : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit few{16, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &few);
-    }
-    ~NoRoom()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY(NoRoom)
-
-private:
-    void (*m_handler)(int);
-    rlimit m_before{};
-};
-
-} // namespace
 
 /// Whatever the program refuses or asks, nothing that was on the disk goes away by it.
 class TestProjectNothingLost : public QObject
@@ -510,7 +483,7 @@ void TestProjectNothingLost::saveThatFindsNoRoomIsToldAndLeavesTheOldFile()
     edit();
     const auto before = d->listing();
     {
-        const NoRoom noRoom;
+        const FullDisk disk(16);
         d->press(Qt::Key_S, Qt::ControlModifier);
     }
     QVERIFY(d->shell().global().projectChanged());

@@ -1,52 +1,13 @@
 #include "ui/render/RenderWindow.h"
 
-#include <functional>
+#include "support/ShownItems.h"
+
 #include <QDir>
 #include <QImage>
 #include <QQuickWindow>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The first shown item, in depth-first order, for which `wanted` holds.
-QQuickItem *findShown(QQuickItem *item, const std::function<bool(QQuickItem *)> &wanted)
-{
-    if (!item->isVisible())
-        return nullptr;
-    if (wanted(item))
-        return item;
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children) {
-        if (QQuickItem *found = findShown(child, wanted))
-            return found;
-    }
-    return nullptr;
-}
-
-bool isText(const QQuickItem *item)
-{
-    return item->inherits("QQuickText");
-}
-
-/// Scrolls what holds the item, as the wheel would.
-void bringIntoSight(QQuickItem *item)
-{
-    for (QQuickItem *above = item->parentItem(); above != nullptr; above = above->parentItem()) {
-        if (!above->inherits("QQuickFlickable") || above->height() <= 0)
-            continue;
-        const double top = item->mapToItem(above, QPointF(0, 0)).y();
-        const double bottom = top + item->height();
-        const double at = above->property("contentY").toDouble();
-        if (bottom > above->height())
-            above->setProperty("contentY", at + bottom - above->height());
-        else if (top < 0)
-            above->setProperty("contentY", at + top);
-    }
-}
-
-} // namespace
 
 RenderWindow::RenderWindow() : RenderWindow(Options())
 {
@@ -98,20 +59,20 @@ void RenderWindow::writePictures(QSize size)
 
 QQuickItem *RenderWindow::part(const QString &objectName) const
 {
-    return findShown(m_shell->window().contentItem(),
-                     [&](QQuickItem *item) { return item->objectName() == objectName; });
+    return shownItems::find(m_shell->window().contentItem(),
+                            [&](QQuickItem *item) { return item->objectName() == objectName; });
 }
 
 QQuickItem *RenderWindow::text(const QString &text) const
 {
-    return findShown(m_shell->window().contentItem(), [&](QQuickItem *item) {
-        return isText(item) && item->property("text").toString() == text;
+    return shownItems::find(m_shell->window().contentItem(), [&](QQuickItem *item) {
+        return shownItems::isText(item) && item->property("text").toString() == text;
     });
 }
 
 QQuickItem *RenderWindow::entry(const QString &text) const
 {
-    return findShown(m_shell->window().contentItem(), [&](QQuickItem *item) {
+    return shownItems::find(m_shell->window().contentItem(), [&](QQuickItem *item) {
         return item->property("shortcut").isValid() && item->property("text").toString() == text;
     });
 }
@@ -125,7 +86,7 @@ QString RenderWindow::textOf(const QString &objectName) const
 QQuickItem *RenderWindow::choice(const QString &rowName, int index) const
 {
     QQuickItem *row = part(rowName);
-    return row == nullptr ? nullptr : findShown(row, [index](QQuickItem *item) {
+    return row == nullptr ? nullptr : shownItems::find(row, [index](QQuickItem *item) {
         return item->property("modelData").isValid() && item->property("index") == index;
     });
 }
@@ -134,7 +95,7 @@ void RenderWindow::click(QQuickItem *item)
 {
     QVERIFY(item != nullptr);
     QVERIFY(m_shell->settle());
-    bringIntoSight(item);
+    shownItems::bringIntoSight(item);
     m_shell->click(item);
 }
 
@@ -152,7 +113,8 @@ void RenderWindow::type(const QString &objectName, const QString &typed)
 {
     QQuickItem *field = part(objectName);
     QVERIFY(field != nullptr);
-    QQuickItem *editor = findShown(field, [](QQuickItem *item) { return item->inherits("QQuickTextInput"); });
+    QQuickItem *editor =
+        shownItems::find(field, [](QQuickItem *item) { return item->inherits("QQuickTextInput"); });
     click(editor);
     QTRY_VERIFY(editor->hasActiveFocus());
     m_shell->press(Qt::Key_A, Qt::ControlModifier);
@@ -161,36 +123,11 @@ void RenderWindow::type(const QString &objectName, const QString &typed)
     m_shell->press(Qt::Key_Return);
 }
 
-QStringList RenderWindow::textsOutside(QQuickItem *item)
-{
-    QStringList outside;
-    const QRectF box = item->mapRectToScene(item->boundingRect());
-    findShown(item, [&](QQuickItem *candidate) {
-        if (!isText(candidate) || candidate->property("text").toString().isEmpty())
-            return false;
-        const QRectF area = candidate->mapRectToScene(candidate->boundingRect());
-        const bool cut = candidate->property("contentWidth").toReal() > candidate->width() + 1
-                         || candidate->property("truncated").toBool();
-        if (cut || area.left() < box.left() - 1 || area.right() > box.right() + 1)
-            outside.append(candidate->property("text").toString());
-        return false;
-    });
-    return outside;
-}
-
 void RenderWindow::keepPicture(const QString &name) const
 {
     const QString folder = qEnvironmentVariable("MORVANE_TEST_PICTURES");
     if (!folder.isEmpty())
         m_shell->window().grabWindow().save(folder + u'/' + name + u".png"_s);
-}
-
-void RenderWindow::visitShown(QQuickItem *item, const std::function<void(QQuickItem *)> &visit)
-{
-    findShown(item, [&](QQuickItem *shown) {
-        visit(shown);
-        return false;
-    });
 }
 
 void RenderWindow::reset()

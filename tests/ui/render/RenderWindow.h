@@ -2,7 +2,6 @@
 
 #include "support/ShellWindow.h"
 
-#include <functional>
 #include <memory>
 #include <QTemporaryDir>
 
@@ -64,8 +63,6 @@ public:
     {
         return m_shell->item(QStringLiteral("controlsPanesBox"));
     }
-    /// Goes through the item and all below that show.
-    static void visitShown(QQuickItem *item, const std::function<void(QQuickItem *)> &visit);
     /// The button of a row of choices.
     QQuickItem *choice(const QString &rowName, int index) const;
     /// Clicks what is given, scrolling to it first.
@@ -78,8 +75,6 @@ public:
     {
         return m_shell->window().qmlDialogUrl();
     }
-    /// Texts of the item and below that are cut off or reach out of it at the sides.
-    static QStringList textsOutside(QQuickItem *item);
     /// Keeps a picture of the window in the folder that MORVANE_TEST_PICTURES names; else nothing.
     void keepPicture(const QString &name) const;
 

@@ -1,4 +1,5 @@
-#include "ui/render/RenderWindow.h"
+#include "support/ShownItems.h"
+#include "ui/render/RenderTest.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -7,21 +8,18 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 /// From the press of the start button to the movie: what the press does first, the progress, the end with its
 /// button, what went wrong, and stopping. The movies are read back by the public tool `ffprobe`.
-class TestRenderJob : public QObject
+class TestRenderJob : public RenderTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void cleanupTestCase();
     void init();
-    void cleanup();
 
     void pressClearsTheWayAndWaits();
     void pauseRunsToItsEnd();
@@ -54,8 +52,6 @@ private:
     }
     static QJsonObject stream(const QString &path, const QString &kind);
     QStringList dialogTexts() const;
-
-    std::unique_ptr<RenderWindow> w;
     /// Between the press and the start. Short, where a test waits for it.
     QObject *pause = nullptr;
 };
@@ -64,17 +60,6 @@ namespace {
 
 constexpr QSize frameSize(320, 288);
 
-void collectTexts(QQuickItem *item, QStringList &texts)
-{
-    if (!item->isVisible())
-        return;
-    if (item->inherits("QQuickText"))
-        texts.append(item->property("text").toString());
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children)
-        collectTexts(child, texts);
-}
-
 } // namespace
 
 void TestRenderJob::initTestCase()
@@ -82,11 +67,6 @@ void TestRenderJob::initTestCase()
     w = std::make_unique<RenderWindow>();
     pause = w->shell().timer(800);
     QVERIFY(pause);
-}
-
-void TestRenderJob::cleanupTestCase()
-{
-    w.reset();
 }
 
 /// One window serves all: back to a film of twelve pictures and a folder without movies.
@@ -110,12 +90,6 @@ void TestRenderJob::init()
     w->shell().desktop().shown.clear();
     QDir(w->window().videoDirPath()).removeRecursively();
     QVERIFY(w->shell().settle());
-}
-
-void TestRenderJob::cleanup()
-{
-    w->window().setQmlDialogUrl({});
-    QCOMPARE(w->shell().sceneWarnings(), QStringList());
 }
 
 void TestRenderJob::press()
@@ -143,10 +117,7 @@ QJsonObject TestRenderJob::stream(const QString &path, const QString &kind)
 
 QStringList TestRenderJob::dialogTexts() const
 {
-    QStringList texts;
-    if (auto *dialog = w->shell().evaluate(u"dialog.item"_s).value<QQuickItem *>())
-        collectTexts(dialog, texts);
-    return texts;
+    return shownItems::texts(w->shell().evaluate(u"dialog.item"_s).value<QQuickItem *>());
 }
 
 void TestRenderJob::pressClearsTheWayAndWaits()

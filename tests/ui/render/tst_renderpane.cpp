@@ -1,22 +1,20 @@
-#include "ui/render/RenderWindow.h"
+#include "support/ShownItems.h"
+#include "ui/render/RenderTest.h"
 
 #include "app/Translations.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 /// The panel of the Timing tab: what each control changes and remembers, and what is noted beside it.
-class TestRenderPane : public QObject
+class TestRenderPane : public RenderTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void cleanupTestCase();
     void init();
-    void cleanup();
 
     void standsOnTheTimingTabOnly();
     void boxesInTheirOrder();
@@ -60,8 +58,6 @@ private:
     {
         return w->pane();
     }
-
-    std::unique_ptr<RenderWindow> w;
 };
 
 void TestRenderPane::initTestCase()
@@ -69,21 +65,10 @@ void TestRenderPane::initTestCase()
     w = std::make_unique<RenderWindow>();
 }
 
-void TestRenderPane::cleanupTestCase()
-{
-    w.reset();
-}
-
 /// One window serves all.
 void TestRenderPane::init()
 {
     w->reset();
-}
-
-void TestRenderPane::cleanup()
-{
-    w->window().setQmlDialogUrl({});
-    QCOMPARE(w->shell().sceneWarnings(), QStringList());
 }
 
 void TestRenderPane::standsOnTheTimingTabOnly()
@@ -101,17 +86,13 @@ void TestRenderPane::standsOnTheTimingTabOnly()
 void TestRenderPane::boxesInTheirOrder()
 {
     QStringList titles;
-    RenderWindow::visitShown(pane(), [&](QQuickItem *item) {
+    shownItems::visit(pane(), [&](QQuickItem *item) {
         if (item->metaObject()->indexOfProperty("contentSpacing") >= 0)
             titles.append(item->property("title").toString());
     });
     titles.removeAll({});
     QCOMPARE(titles.first(3), (QStringList{"Filters", "Video", "Frame Info"}));
-    QStringList headings;
-    RenderWindow::visitShown(pane(), [&](QQuickItem *item) {
-        if (item->inherits("QQuickText"))
-            headings.append(item->property("text").toString());
-    });
+    const QStringList headings = shownItems::texts(pane());
     qsizetype before = -1;
     for (const char *heading : {"Output", "Format & Quality", "Video Effects", "Size & Options"}) {
         const qsizetype at = headings.indexOf(QLatin1String(heading));

@@ -1,24 +1,22 @@
-#include "ui/render/RenderWindow.h"
+#include "support/ShownItems.h"
+#include "ui/render/RenderTest.h"
 
 #include "app/Translations.h"
 
 #include <functional>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 /// What the render pane tells and allows: the lines that say what would be made, when the start button can be
 /// pressed and what stands against it, what is known of the current frame, how the keyboard comes through,
 /// and that every text is whole.
-class TestRenderRules : public QObject
+class TestRenderRules : public RenderTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void cleanupTestCase();
     void init();
-    void cleanup();
 
     void everySummary_data();
     void everySummary();
@@ -47,8 +45,6 @@ private:
     }
     QObject *strings() const;
     QList<QQuickItem *> tabStops() const;
-
-    std::unique_ptr<RenderWindow> w;
 };
 
 void TestRenderRules::initTestCase()
@@ -56,21 +52,10 @@ void TestRenderRules::initTestCase()
     w = std::make_unique<RenderWindow>();
 }
 
-void TestRenderRules::cleanupTestCase()
-{
-    w.reset();
-}
-
 /// One window serves all.
 void TestRenderRules::init()
 {
     w->reset();
-}
-
-void TestRenderRules::cleanup()
-{
-    w->window().setQmlDialogUrl({});
-    QCOMPARE(w->shell().sceneWarnings(), QStringList());
 }
 
 QObject *TestRenderRules::strings() const
@@ -257,7 +242,7 @@ void TestRenderRules::frameInfoTellsTheState()
 QList<QQuickItem *> TestRenderRules::tabStops() const
 {
     QList<QQuickItem *> stops;
-    RenderWindow::visitShown(pane(), [&](QQuickItem *item) {
+    shownItems::visit(pane(), [&](QQuickItem *item) {
         if (item->activeFocusOnTab() && item->isEnabled())
             stops.append(item);
     });
@@ -335,13 +320,13 @@ void TestRenderRules::everyTextIsWhole()
     QVERIFY(window.shell().settle());
     window.keepPicture("pane_" + QLatin1String(QTest::currentDataTag()));
     for (const char *part : {"renderPane", "renderButtons"})
-        QCOMPARE(RenderWindow::textsOutside(window.part(part)).join('\n'), QString());
+        QCOMPARE(shownItems::textsOutside(window.part(part)).join('\n'), QString());
     window.click("openEffects");
     QVERIFY(window.shell().settle());
     window.keepPicture("effects_" + QLatin1String(QTest::currentDataTag()));
     auto *dialog = window.shell().evaluate("dialog.item").value<QQuickItem *>();
     QVERIFY(dialog);
-    QCOMPARE(RenderWindow::textsOutside(dialog).join('\n'), QString());
+    QCOMPARE(shownItems::textsOutside(dialog).join('\n'), QString());
 }
 
 QTEST_MAIN(TestRenderRules)

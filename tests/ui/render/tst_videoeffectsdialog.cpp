@@ -1,20 +1,17 @@
-#include "ui/render/RenderWindow.h"
-
-#include <QTest>
+#include "support/ShownItems.h"
+#include "ui/render/RenderTest.h"
 
 using namespace Qt::StringLiterals;
 
 /// The dialog of the video effects: what it offers, and that each value reaches the project as it is chosen
 /// and comes back from there.
-class TestVideoEffectsDialog : public QObject
+class TestVideoEffectsDialog : public RenderTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void cleanupTestCase();
     void init();
-    void cleanup();
 
     void offersTheCatalogue();
     void choosingTakesTheDefaults_data();
@@ -48,8 +45,6 @@ private:
     {
         return w->shell().evaluate(u"dialog.item"_s).value<QQuickItem *>();
     }
-
-    std::unique_ptr<RenderWindow> w;
 };
 
 void TestVideoEffectsDialog::initTestCase()
@@ -59,20 +54,9 @@ void TestVideoEffectsDialog::initTestCase()
     w = std::make_unique<RenderWindow>(options);
 }
 
-void TestVideoEffectsDialog::cleanupTestCase()
-{
-    w.reset();
-}
-
 void TestVideoEffectsDialog::init()
 {
     w->global().setVideoEffectsString({});
-}
-
-void TestVideoEffectsDialog::cleanup()
-{
-    w->window().setQmlDialogUrl({});
-    QCOMPARE(w->shell().sceneWarnings(), QStringList());
 }
 
 void TestVideoEffectsDialog::open(const QString &effect)
@@ -366,7 +350,7 @@ void TestVideoEffectsDialog::everyTextIsWhole()
 {
     QFETCH(QString, effect);
     open(effect);
-    QCOMPARE(RenderWindow::textsOutside(dialog()), QStringList());
+    QCOMPARE(shownItems::textsOutside(dialog()), QStringList());
     w->keepPicture("effect_" + effect.section('=', 0, 0));
 }
 

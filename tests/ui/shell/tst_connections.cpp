@@ -41,15 +41,6 @@ private slots:
     void redrawBlinksAPixelTwice();
 
 private:
-    static bool hasKeyboard(ShellWindow &shell)
-    {
-        return shell.window().activeFocusItem() == shell.item("keyHandler");
-    }
-    static QByteArray fileOf(ShellWindow &shell)
-    {
-        QFile file(shell.window().projPath());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     static void startPlayback(ShellWindow &shell)
     {
         shell.addFrames(5);
@@ -68,7 +59,7 @@ void TestConnections::capturedFrameIsSavedAndShown()
     shell.frames().setCurrentIndex(0);
     QSignalSpy jumps(&shell.global(), &WebcamGlobal::timelineGotoEnd);
     shell.frames().appendFrame({{"capFull", "frame_norm_000003_260314150926.jpg"}}, true);
-    QVERIFY(fileOf(shell).contains("frame_norm_000003_260314150926.jpg"));
+    QVERIFY(shell.projectFileText().contains("frame_norm_000003_260314150926.jpg"));
     QVERIFY(!shell.global().projectChanged());
     QCOMPARE(jumps.count(), 1);
     QVERIFY(shell.frames().last() > 2);
@@ -180,7 +171,7 @@ void TestConnections::closingDialogResetsWhatItHadChanged()
     QCOMPARE(shell.evaluate("specialColor").value<QColor>(), QColor(Qt::transparent));
     QVERIFY(shell.global().playerPaused());
     QCOMPARE(shell.window().qmlDialogUrl(), QString());
-    QVERIFY(hasKeyboard(shell));
+    QVERIFY(shell.hasKeyboard());
     QCOMPARE(shell.window().countClipboardFrames(), 0);
 }
 
@@ -195,10 +186,10 @@ void TestConnections::dismissalResetsWhatWasGoingOn()
     shell.global().setFrameWrapper(Zum::FileInfoFrameWrapper);
     shell.global().setTimelineInteractive(false);
     shell.findItem("toolTip", "Main menu")->forceActiveFocus();
-    QVERIFY(!hasKeyboard(shell));
+    QVERIFY(!shell.hasKeyboard());
 
     emit shell.global().globalDismiss();
-    QVERIFY(hasKeyboard(shell));
+    QVERIFY(shell.hasKeyboard());
     QCOMPARE(shell.global().frameWrapper(), int(Zum::NoFrameWrapper));
     QVERIFY(shell.global().timelineInteractive());
     QCOMPARE(curves.selectedCount(), 0);
@@ -239,7 +230,7 @@ void TestConnections::savingSignals()
 
     QVERIFY(QMetaObject::invokeMethod(&shell.global(), signal.data()));
     QTRY_VERIFY(!shell.global().projectChanged());
-    QVERIFY(fileOf(shell).contains("The Hare"));
+    QVERIFY(shell.projectFileText().contains("The Hare"));
     QTRY_COMPARE(QFile::exists(stray), !cleans);
 }
 
@@ -264,7 +255,7 @@ void TestConnections::autosaveTicks()
     shell.global().setMovieTitle("The Hare");
     tick();
     QCOMPARE(autosaves.count(), 1);
-    QVERIFY(fileOf(shell).contains("The Hare"));
+    QVERIFY(shell.projectFileText().contains("The Hare"));
     QVERIFY(!shell.window().pauseAutosave());
 
     // With nothing to save it rests until the next change.
@@ -378,7 +369,7 @@ void TestConnections::questionStopsThePlayback()
     emit shell.controllers().lifecycle.confirmClose();
     QVERIFY(!shell.frames().playing());
     QCOMPARE(shell.window().qmlDialogUrl(), "SaveConfirmDialog.qml");
-    QVERIFY(hasKeyboard(shell));
+    QVERIFY(shell.hasKeyboard());
 }
 
 void TestConnections::redrawBlinksAPixelTwice()

@@ -47,15 +47,6 @@ private:
     {
         return shell.findItem("icon", "svgicons/close.svg", shell.item("dialogLayer"));
     }
-    static bool hasKeyboard(ShellWindow &shell)
-    {
-        return shell.window().activeFocusItem() == shell.item("keyHandler");
-    }
-    static QByteArray fileOf(ShellWindow &shell)
-    {
-        QFile file(shell.window().projPath());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
 };
 
 namespace {
@@ -77,7 +68,7 @@ void TestDialogLayer::nothingIsThereAtTheStart()
     QVERIFY(!shell.item("dialogLayer")->isVisible());
     QCOMPARE(shell.window().qmlDialogUrl(), QString());
     QVERIFY(!shell.window().qmlDialogVisible());
-    QVERIFY(hasKeyboard(shell));
+    QVERIFY(shell.hasKeyboard());
 }
 
 void TestDialogLayer::showsTheDialogThatTheWindowNames_data()
@@ -207,13 +198,13 @@ void TestDialogLayer::endingDialogTellsAndGivesTheKeyboardBack()
     shell.evaluate("propertiesBox()");
     // A field of the dialog takes the keyboard.
     shell.press(Qt::Key_Tab);
-    QVERIFY(!hasKeyboard(shell));
+    QVERIFY(!shell.hasKeyboard());
     QSignalSpy closing(&shell.global(), &WebcamGlobal::dialogClosing);
     shell.window().setQmlDialogUrl({});
     QVERIFY(closing.count() > 0);
     QVERIFY(!shell.window().qmlDialogVisible());
     QVERIFY(!shell.item("dialogLayer")->isVisible());
-    QVERIFY(hasKeyboard(shell));
+    QVERIFY(shell.hasKeyboard());
 }
 
 void TestDialogLayer::dialogPausesTheLiveViewOnTheCaptureTab()
@@ -248,7 +239,7 @@ void TestDialogLayer::fileThatIsNotThereDoesNotHoldTheSceneUp()
     QTRY_COMPARE(shell.window().qmlDialogUrl(), QString());
     QVERIFY(!shell.window().qmlDialogVisible());
     QVERIFY(!shell.item("dialogLayer")->isVisible());
-    QVERIFY(hasKeyboard(shell));
+    QVERIFY(shell.hasKeyboard());
     shell.evaluate("aboutBox()");
     QVERIFY(shell.evaluate("dialog.item !== null").toBool());
 }
@@ -287,7 +278,7 @@ void TestDialogLayer::questionBeforeWorkIsLost()
     QVERIFY(shell.dialogs().asked.isEmpty());
     QCOMPARE(shell.window().projPath(), here);
 
-    const QByteArray unsaved = fileOf(shell);
+    const QByteArray unsaved = shell.projectFileText();
     shell.click(answer == "close" ? closeButton(shell) : shell.findItem("text", answer));
     QTRY_COMPARE(shell.window().qmlDialogUrl(), QString());
     if (answer == "close") {
@@ -332,13 +323,13 @@ void TestDialogLayer::questionIsAnsweredWithTheKeyboard()
     QVERIFY(shell.createProject());
     makeDirty(shell);
     shell.window().quit();
-    QVERIFY(hasKeyboard(shell));
+    QVERIFY(shell.hasKeyboard());
     shell.press(key);
     QTRY_COMPARE(shell.quits(), quits);
     QCOMPARE(shell.window().qmlDialogUrl(), QString());
-    QCOMPARE(fileOf(shell).contains(changedTitle), saved);
+    QCOMPARE(shell.projectFileText().contains(changedTitle), saved);
     QTRY_COMPARE(shell.global().afterConfirmAction(), int(Zum::NoAfterConfirmAction));
-    QVERIFY(hasKeyboard(shell));
+    QVERIFY(shell.hasKeyboard());
 }
 
 void TestDialogLayer::noQuestionWithoutChanges()

@@ -1,3 +1,4 @@
+#include "support/PublishedConstants.h"
 #include "support/ShellWindow.h"
 
 #include <qqml.h>
@@ -182,88 +183,15 @@ void TestSceneValues::fontIndexOutOfRangeFallsBackToTheDensity()
 
 void TestSceneValues::constantsReachTheScene()
 {
-    const QList<std::pair<const char *, QVariant>> values{
-        {"smoothUi", true},
-        {"ChromaSimilarityMin", 0},
-        {"ChromaSimilarityMax", 100},
-        {"ChromaBlendMin", 1},
-        {"ChromaBlendMax", 100},
-        {"commonMinScaleFactor", 0.1},
-        {"NoteColor", "#00b773"},
-        {"CAPTURE_CACHE_MAX", 155520000},
-        {"RAM_CACHE_MAX", 870912000},
-        {"winId", 0},
-        {"slh", "/"},
-        {"prfx", "file:///"},
-        {"textShift", 0},
-        {"emptyFrameImage", "images/empty_96.png"},
-        {"globalFonColor", "#393939"},
-        {"GlobalDarkColor", "#393939"},
-        {"GlobalDarkerColor", "#333333"},
-        {"GlobalDarkestColor", "#282828"},
-        {"GlobalButtonColor", "#202020"},
-        {"activeColor", "#FF9900"},
-        {"defaultGrayColor", "#A0A0A0"},
-        {"controlsTextColor", "#999999"},
-        {"staticFrameColor", "#1854dd"},
-        {"staticFrameColorLight", "#2d7de7"},
-        {"LinkColor", "#3396FF"},
-        {"LinkColor2", "#1372d7"},
-        {"LinkColor3", "#1854dd"},
-        {"specialColor", QColor(Qt::transparent)},
-        {"startIndexMax", 30000},
-        {"thumbsDirName", "tmb"},
-        {"capturedDirName", "cap"},
-        {"refernceDirName", "ref"},
-        {"videoDirName", "video"},
-        {"LastProjectsKey", "lastprojects"},
-        {"BookmarksGroupKey", "bookmarks"},
-        {"ExtEditorPathKey", "exteditorpath"},
-        {"LanguageLocaleKey", "localename"},
-        {"digitalExposureMin", 3},
-        {"digitalExposureMax", 80},
-        {"digitalExposureDef", 10},
-        {"referenceImageScaleMin", 10.0},
-        {"referenceImageScaleDef", 100.0},
-        {"referenceImageScaleMax", 300.0},
-        {"defPathSmooting", 300},
-        {"timelineScale", 100},
-        {"globalCorner", 2},
-        {"wrong", "?"},
-        {"DefaultPhase", 0},
-        {"ExportJpegQuality", 80},
-        {"DupliQuantityMin", 1},
-        {"DupliQuantityMax", 9},
-        {"maxFps", 60.0},
-        {"DefaultAutosaveDelayMin", 3},
-        {"WbTempMax", 10000},
-        {"WbTempMin", 2800},
-        {"VideoFormatMPEG4", "avi"},
-        {"VideoFormatOGV", "ogv"},
-        {"VideoFormatWEBM", "webm"},
-        {"VideoFormatAPNG", "apng"},
-        {"VideoFormatWEBP", "webp"},
-        {"VideoFormatRAW", "raw"},
-        {"VideoFormatMKV", "mkv"},
-        {"ExportVideoMinFrameWidth", 320},
-        {"ExportVideoMinFrameHeight", 280},
-        {"CanonCamImgQualityJPEG", "JPEG"},
-        {"CanonCamImgQualityRAW", "RAW"},
-        {"CanonCamImgQualityRAWJPEG", "RAW+JPEG"},
-        {"MaxFrameWidth", 1200000},
-        {"MaxFrameHeight", 1200000},
-        {"RAMdefFrameWidth", 540},
-        {"RAMdefFrameHeight", 360},
-        {"appType", "capture"},
-        {"underscore", "_"},
-        {"onunix", false},
-    };
+    const QList<QQmlContext::PropertyPair> values =
+        publishedConstants() + QList<QQmlContext::PropertyPair>{{"smoothUi", true}, {"timelineScale", 100}};
     ShellWindow shell;
     for (const auto &[name, value] : values) {
         const QVariant seen = shell.evaluate(name);
-        QVERIFY2(seen.isValid(), name);
-        QVERIFY2((seen.typeId() == QMetaType::QString) == (value.typeId() == QMetaType::QString), name);
-        QVERIFY2(seen == value, name);
+        QVERIFY2(seen.isValid(), qPrintable(name));
+        QVERIFY2((seen.typeId() == QMetaType::QString) == (value.typeId() == QMetaType::QString),
+                 qPrintable(name));
+        QVERIFY2(seen == value, qPrintable(name));
     }
 }
 
