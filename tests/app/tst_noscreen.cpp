@@ -31,9 +31,9 @@ void TestNoScreen::programTellsThatThereIsNoScreen()
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.exitCode(), 1);
     const QByteArray told = program.readAllStandardError();
-    QVERIFY2(told.startsWith("Morvane Capture has found no screen"), told);
-    QVERIFY2(told.contains("could not connect to display " + display.toLocal8Bit()), told);
-    QVERIFY2(!told.contains("Reinstalling the application"), told);
+    QVERIFY2(told.startsWith("Morvane Capture has found no screen"), told.constData());
+    QVERIFY2(told.contains("could not connect to display " + display.toLocal8Bit()), told.constData());
+    QVERIFY2(!told.contains("Reinstalling the application"), told.constData());
     QCOMPARE(program.readAllStandardOutput(), QByteArray());
 }
 

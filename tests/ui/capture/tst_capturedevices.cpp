@@ -220,7 +220,7 @@ void TestCaptureDevices::dialogIsNamedByTheKind()
                     != nullptr);
     }
     CaptureWindow canon(CaptureWindow::options(Zum::CapturingDeviceCanonEOS));
-    click(canon, "deviceListButton");
+    canon.trigger("deviceListButton");
     QTRY_VERIFY(canon.findItem("heading", "Available Cameras") != nullptr);
     QVERIFY(canon.control("addFileCamera") == nullptr);
 }

@@ -238,7 +238,7 @@ void TestCapturePanels::slidersHaveTheirRanges()
     if (shell == nullptr) {
         kept = std::make_unique<CaptureWindow>();
         shell = kept.get();
-        click(*shell, "cameraControls");
+        shell->trigger("cameraControls");
     }
     QQuickItem *slider = shell->control(QStringLiteral("webcamSlider%1").arg(id));
     QVERIFY(slider != nullptr);
