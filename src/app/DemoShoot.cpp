@@ -224,6 +224,9 @@ void DemoShoot::leaveWhenQuiet()
         return;
     if (m_quitAsked && m_quietTicks < ticksBetweenAttempts)
         return;
+    // Whatever has happened, what there is so far is kept.
+    if (!m_quitAsked && m_window.projectLoaded() && !m_window.allowQuietExit())
+        m_window.saveProjectXmlFile(Zum::SaveProjectXMLonly);
     m_quitAsked = true;
     m_quietTicks = isLate ? mostTicksToRest - ticksBetweenAttempts : 0;
     m_window.quit(true);

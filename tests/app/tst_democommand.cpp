@@ -164,7 +164,7 @@ void TestDemoCommand::wholeDemoWithoutAScreen()
     QCOMPARE(lines.at(8), "Project: " + folder + "/morvane-demo.kzfx");
     QCOMPARE(lines.at(9), "WebM:    " + folder + "/morvane-demo_files/video/demo.webm");
     QCOMPARE(lines.at(10), "AVI:     " + folder + "/morvane-demo_files/video/demo.avi");
-    QCOMPARE(lines.at(11).section(" '", 1),
+    QCOMPARE(lines.at(11).section(" '", 2),
              run.path("films it'\\''s/morvane-demo-2/morvane-demo.kzfx") + '\'');
     DemoRun::checkWhole(folder);
     if (QTest::currentTestFailed())
