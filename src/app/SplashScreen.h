@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImageReader>
 #include <QPixmap>
 #include <QSplashScreen>
 
@@ -10,9 +11,16 @@ class SplashScreen : public QSplashScreen
     Q_OBJECT
 
 public:
-    explicit SplashScreen(int density)
-        : QSplashScreen(QPixmap(QStringLiteral(":/images/capture/splash_%1.png").arg(density)),
-                        Qt::WindowStaysOnTopHint)
+    explicit SplashScreen(int density) : QSplashScreen(picture(density), Qt::WindowStaysOnTopHint)
     {
+    }
+
+private:
+    static QPixmap picture(int density)
+    {
+        QImageReader reader(QStringLiteral(":/images/capture/splash_%1.png").arg(density), "png");
+        // To find the format out, it would load the plug-ins of all formats.
+        reader.setAutoDetectImageFormat(false);
+        return QPixmap::fromImageReader(&reader);
     }
 };
