@@ -21,6 +21,7 @@ FirstStep {
     number: 1
     title: qsTr("Create or open a project")
     text: done ? MainWindow.projName : qsTr("Frames go into a project: one file and a folder beside it.")
+    onDoneChanged: readRecent()
     Component.onCompleted: readRecent()
 
     Connections {

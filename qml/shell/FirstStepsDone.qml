@@ -12,12 +12,17 @@ QtObject {
     readonly property int played: 2
     readonly property int rendered: 3
 
-    property int last: Math.max(none, Math.min(rendered, parseInt(MainWindow.getSetting("firstStepsDone", none)) || 0))
+    property int last: none
     readonly property bool all: last === rendered
 
     function store(step) {
         last = step;
         MainWindow.addSetting("firstStepsDone", step);
+    }
+
+    function read() {
+        const stored = parseInt(MainWindow.getSetting("firstStepsDone", none)) || none;
+        last = Math.max(none, Math.min(rendered, stored));
     }
 
     // A step that was taken makes those before it needless.
@@ -29,4 +34,6 @@ QtObject {
     function switchHints(on) {
         store(on ? none : rendered);
     }
+
+    Component.onCompleted: read()
 }

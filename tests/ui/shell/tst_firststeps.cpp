@@ -1,5 +1,7 @@
 #include "FirstStepsWindow.h"
 
+#include "app/Translations.h"
+
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -22,7 +24,7 @@ private slots:
     void chosenCameraIsNamedAndConnected();
     void anotherCameraCanBeChosen();
     void cameraThatDoesNotConnectIsToldOfWithWhatToDo();
-    void connectingStaysOnAnotherTab();
+    void connectingGoesOnAfterAVisitToAnotherTab();
     void connectedCameraTicksItsStepWithoutAProject();
     void stepsGiveWayToThePicture();
     void projectWithFramesShowsThemInstead();
@@ -195,13 +197,15 @@ void TestFirstSteps::cameraThatDoesNotConnectIsToldOfWithWhatToDo()
              qPrintable(shell.messages().join('\n')));
 }
 
-void TestFirstSteps::connectingStaysOnAnotherTab()
+void TestFirstSteps::connectingGoesOnAfterAVisitToAnotherTab()
 {
     FirstStepsWindow shell;
     QVERIFY(shell.makeProject());
     shell.swapQuickly();
     shell.clickPart("connectFirst");
     shell.global().setMainTabsState("timingUIisOn");
+    QTRY_COMPARE(shell.window().currentCapturingDevice(), int(Zum::CapturingDeviceWebcam));
+    shell.global().setMainTabsState("captureUIisOn");
     QTRY_VERIFY_WITH_TIMEOUT(shell.global().connected(), 10000);
     QCOMPARE(shell.sceneWarnings(), QStringList());
 }
@@ -310,7 +314,7 @@ void TestFirstSteps::fitsTheWindow_data()
     QTest::addColumn<int>("fontRow");
     QTest::addColumn<QString>("locale");
     for (const QSize size : {QSize(1024, 600), QSize(1920, 1080)}) {
-        for (const int row : {0, 1, 8}) {
+        for (const int row : {0, 8}) {
             for (const char *locale : {"en_US", "ru_RU"})
                 QTest::addRow("%d wide, font %d, %s", size.width(), row, locale)
                     << size << row << QString(locale);
@@ -326,6 +330,8 @@ void TestFirstSteps::fitsTheWindow()
     ShellWindow::Options options;
     options.size = size;
     options.locale = locale;
+    QObject language;
+    translations::install(locale, &language);
     options.settings.insert("fontsize", fontRow);
     FirstStepsWindow shell(options);
     for (const char *name : {"one", "two", "three", "four"}) {

@@ -1,5 +1,7 @@
 #include "FirstStepsWindow.h"
 
+#include "app/Translations.h"
+
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -27,6 +29,7 @@ private:
     static ShellWindow::Options with(int lastStep);
     static QString due(const FirstStepsWindow &shell);
     static bool connectCamera(FirstStepsWindow &shell);
+    static void addFilm(FirstStepsWindow &shell, int frames);
 };
 
 ShellWindow::Options TestStepHints::with(int lastStep)
@@ -47,6 +50,13 @@ bool TestStepHints::connectCamera(FirstStepsWindow &shell)
 {
     shell.press(Qt::Key_F5);
     return QTest::qWaitFor([&shell] { return shell.global().connected(); }, 10000);
+}
+
+void TestStepHints::addFilm(FirstStepsWindow &shell, int frames)
+{
+    shell.addFrames(frames);
+    shell.frames().setTimelineRangeStart(0);
+    shell.frames().setTimelineRangeEnd(qMax(0, frames - 1));
 }
 
 void TestStepHints::leadFromEmptySettingsToAMovie()
@@ -72,6 +82,8 @@ void TestStepHints::leadFromEmptySettingsToAMovie()
     QCOMPARE(shell.global().mainTabsState(), "timingUIisOn");
     QTRY_VERIFY(shell.frames().playing());
     QCOMPARE(due(shell), QString());
+    // It plays round and round until it is stopped.
+    shell.press(Qt::Key_Space);
     QTRY_VERIFY(!shell.frames().playing());
 
     QTRY_COMPARE(due(shell), "render");
@@ -131,7 +143,7 @@ void TestStepHints::eachWaitsForTheStepBefore()
     QFETCH(bool, onTiming);
     FirstStepsWindow shell(with(lastStep));
     QVERIFY(shell.createProject());
-    shell.addFrames(frames);
+    addFilm(shell, frames);
     if (onTiming)
         shell.global().setMainTabsState("timingUIisOn");
     QVERIFY(shell.settle());
@@ -142,7 +154,7 @@ void TestStepHints::canBeSwitchedOffAndOnAgain()
 {
     FirstStepsWindow shell(with(1));
     QVERIFY(shell.createProject());
-    shell.addFrames(2);
+    addFilm(shell, 2);
     QTRY_COMPARE(due(shell), "play");
     shell.clickPart("stepHintClose");
     QCOMPARE(due(shell), QString());
@@ -180,7 +192,7 @@ void TestStepHints::moveNothing()
 {
     FirstStepsWindow shell(with(1));
     QVERIFY(shell.createProject());
-    shell.addFrames(2);
+    addFilm(shell, 2);
     QTRY_COMPARE(due(shell), "play");
     QVERIFY(shell.settle());
     const QStringList parts{"screenArea", "timelineBox", "statusBar", "controlsPanesBox"};
@@ -200,7 +212,7 @@ void TestStepHints::areReachedByKeys()
 {
     FirstStepsWindow shell(with(1));
     QVERIFY(shell.createProject());
-    shell.addFrames(2);
+    addFilm(shell, 2);
     QTRY_COMPARE(due(shell), "play");
     for (int i = 0; i < 80 && !shell.part("stepHintButton")->hasActiveFocus(); ++i)
         shell.press(Qt::Key_Backtab);
@@ -213,7 +225,7 @@ void TestStepHints::renderHintBringsItsPanelBack()
 {
     FirstStepsWindow shell(with(2));
     QVERIFY(shell.createProject());
-    shell.addFrames(2);
+    addFilm(shell, 2);
     shell.global().setRightPanelPinned(false);
     shell.global().setMainTabsState("captureUIisOn");
     QTRY_COMPARE(due(shell), "render");
@@ -231,7 +243,7 @@ void TestStepHints::fitTheWindow_data()
     QTest::addColumn<QString>("locale");
     QTest::addColumn<int>("lastStep");
     for (const QSize size : {QSize(1024, 600), QSize(1920, 1080)}) {
-        for (const int row : {0, 1, 8}) {
+        for (const int row : {0, 8}) {
             for (const char *locale : {"en_US", "ru_RU"}) {
                 for (const int step : {0, 1, 2})
                     QTest::addRow("%d wide, font %d, %s, step %d", size.width(), row, locale, step)
@@ -250,13 +262,15 @@ void TestStepHints::fitTheWindow()
     ShellWindow::Options options = with(lastStep);
     options.size = size;
     options.locale = locale;
+    QObject language;
+    translations::install(locale, &language);
     options.settings.insert("fontsize", fontRow);
     FirstStepsWindow shell(options);
     QVERIFY(shell.createProject());
     if (lastStep == 0)
         QVERIFY(connectCamera(shell));
     else
-        shell.addFrames(3);
+        addFilm(shell, 3);
     QTRY_VERIFY(!due(shell).isEmpty());
     QVERIFY(shell.settle());
     shell.keepPicture(u"hint-%1"_s.arg(QTest::currentDataTag()).replace(u", "_s, u"-"_s));
