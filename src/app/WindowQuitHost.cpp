@@ -11,6 +11,7 @@ WindowQuitHost::WindowQuitHost(AppControllers &controllers, MainWindow &window)
 
 bool WindowQuitHost::allowQuietExit() const
 {
+    m_controllers.lifecycle.finishSaves();
     return m_controllers.lifecycle.allowQuietExit();
 }
 

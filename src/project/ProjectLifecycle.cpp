@@ -49,6 +49,7 @@ ProjectLifecycle::ProjectLifecycle(const ProjectServices &services, ProjectPaths
     connect(&files, &FrameFileOperations::framesCopied, this, &ProjectLifecycle::onFramesCopied);
     connect(&files, &FrameFileOperations::projectCopied, this, &ProjectLifecycle::onProjectCopied);
     connect(&files, &FrameFileOperations::cleanedUp, this, &ProjectLifecycle::onCleanedUp);
+    connect(&m_saves, &BackgroundSave::saved, this, &ProjectLifecycle::onSaved);
 }
 
 void ProjectLifecycle::setPerformAutosave(bool perform)
@@ -119,6 +120,7 @@ void ProjectLifecycle::projectSaved()
 // Nothing is lost without a question: true when the step has to wait for its answer.
 bool ProjectLifecycle::postponeFor(int afterConfirmAction)
 {
+    finishSaves();
     if (allowQuietExit())
         return false;
     m_services.global.setAfterConfirmAction(afterConfirmAction);
@@ -134,6 +136,7 @@ void ProjectLifecycle::forgetAfterConfirm()
 
 void ProjectLifecycle::resetProject(Reset mode)
 {
+    finishSaves();
     ++m_generation;
     m_files.abandonAdding();
     m_frames.stopPlayback();
@@ -166,6 +169,7 @@ void ProjectLifecycle::resetProject(Reset mode)
 
 void ProjectLifecycle::closeProject()
 {
+    finishSaves();
     setAllowQuietExit(true);
     resetProject(Reset::Closing);
 }
@@ -215,6 +219,7 @@ void ProjectLifecycle::stopLoadingProject()
 void ProjectLifecycle::finishOperations()
 {
     setLoadingProject(false);
+    finishSaves();
     m_files.finish();
 }
 

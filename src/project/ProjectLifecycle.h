@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/BackgroundSave.h"
 #include "project/FrameFileOperations.h"
 #include "project/ProjectLock.h"
 #include "project/ProjectMapping.h"
@@ -74,7 +75,12 @@ public slots:
     int readProjectXmlFile();
     /// `saveMode` is one of Zum::SaveMode. False when nothing was written: the user gave up, there is no
     /// project, the save was refused or failed. A failure is also told to the user, and leaves the old file.
+    ///
+    /// SaveProjectXMLonly, the mode of shots and of autosave, takes the state of now and goes on: it is true
+    /// when the write was begun. The project counts as saved from then on; a failure has it changed again.
     bool saveProjectXmlFile(int saveMode);
+    /// Waits for saves that were begun. Call it before asking whether there is something to save.
+    void finishSaves();
     /// Something that the project file keeps has changed.
     void projectChanged();
     /// The project was saved: goes on with whatever waited for it.
@@ -139,6 +145,9 @@ private:
     bool saveAs(const QString &path);
     bool saveInPlace(int saveMode);
     bool write(ProjectMapping::Rows rows);
+    void noteWritten();
+    void tellOfFailure(const QString &path, const QString &reason);
+    void onSaved(const QString &path, const AtomicFile::Result &result);
     void markSaved();
     void onProjectCopied(FrameFileOperations::End end, int failures);
     bool startCleanup(ProjectCleanup::Folders folders);
@@ -157,6 +166,7 @@ private:
     ProjectLock &m_lock;
     ProjectMapping m_mapping;
     ProjectReport m_report;
+    BackgroundSave m_saves;
 
     /// Of the project that an operation in the pool was started for; a later one is not concerned by its end.
     int m_operationGeneration = 0;

@@ -119,6 +119,7 @@ int ProjectLifecycle::readProjectXmlFile()
 ProjectReadResult ProjectLifecycle::readInPool(const QString &path)
 {
     m_reading = true;
+    finishSaves();
     setLoadingProject(false);
     if (m_services.clearRobotJob)
         m_services.clearRobotJob();

@@ -138,11 +138,15 @@ bool ProjectLifecycle::saveAs(const QString &path)
 
 bool ProjectLifecycle::saveInPlace(int saveMode)
 {
+    if (saveMode == Zum::SaveProjectXMLonly) {
+        m_saves.save(m_paths.projPath(), m_mapping.collect());
+        noteWritten();
+        markSaved();
+        return true;
+    }
     if (!write(ProjectMapping::Rows::Include))
         return false;
-    if (saveMode == Zum::SaveProjectXMLonly) {
-        markSaved();
-    } else if (saveMode == Zum::SaveProjectAndCleanup) {
+    if (saveMode == Zum::SaveProjectAndCleanup) {
         if (!m_operation.isFree()) {
             qDebug("saveProjectXmlFile: Cannot cleanup on Save project. Thread is busy");
         } else {
@@ -159,16 +163,42 @@ bool ProjectLifecycle::saveInPlace(int saveMode)
 
 bool ProjectLifecycle::write(ProjectMapping::Rows rows)
 {
+    // An older state must not come after this one.
+    finishSaves();
     const AtomicFile::Result result = ProjectWriter::save(m_paths.projPath(), m_mapping.collect(rows));
     if (!result.ok) {
-        m_report.tellSaveFailed(m_paths.projPath(), result.reason);
-        // Quitting or opening another project must not follow a later save by surprise.
-        forgetAfterConfirm();
+        tellOfFailure(m_paths.projPath(), result.reason);
         return false;
     }
+    noteWritten();
+    return true;
+}
+
+void ProjectLifecycle::noteWritten()
+{
     m_changedSinceWrite = false;
     emit windowModifiedChanged(false);
-    return true;
+}
+
+void ProjectLifecycle::tellOfFailure(const QString &path, const QString &reason)
+{
+    m_report.tellSaveFailed(path, reason);
+    // Quitting or opening another project must not follow a later save by surprise.
+    forgetAfterConfirm();
+}
+
+void ProjectLifecycle::finishSaves()
+{
+    m_saves.finish();
+}
+
+void ProjectLifecycle::onSaved(const QString &path, const AtomicFile::Result &result)
+{
+    if (result.ok)
+        return;
+    tellOfFailure(path, result.reason);
+    if (path == m_paths.projPath())
+        projectChanged();
 }
 
 void ProjectLifecycle::markSaved()

@@ -20,6 +20,11 @@ private slots:
     void savingWritesTheFrames();
     void savingWhileFramesAreCopiedWritesTheFileAndStaysDirty();
     void xmlOnlyLooksAtNoOperation();
+    void xmlOnlyWritesInTheBackground();
+    void aFailedWriteInTheBackgroundHasTheProjectChangedAgain();
+    void aSaveComesAfterTheOneInTheBackground();
+    void closingWaitsForTheSaveInTheBackground();
+    void anotherProjectIsNotOpenedOverAFailedSaveInTheBackground();
     void aFailedSaveTellsTheUserAndKeepsTheOldFile();
     void aFailedSaveForgetsWhatWaited();
     void aProjectThatIsNotCompletelyLoadedIsNeverWritten();
@@ -178,6 +183,78 @@ void TestProjectSaving::xmlOnlyLooksAtNoOperation()
     QVERIFY(world.life.saveProjectXmlFile(Zum::SaveProjectXMLonly));
     QVERIFY(!world.global.projectChanged());
     QVERIFY(world.life.allowQuietExit());
+}
+
+void TestProjectSaving::xmlOnlyWritesInTheBackground()
+{
+    ProjectWorld world;
+    QVERIFY(world.createProject("p.kzfx"));
+    world.addFrame(0);
+    QVERIFY(world.life.saveProjectXmlFile(Zum::SaveProjectXMLonly));
+    QVERIFY(!world.global.projectChanged());
+    // What comes after it is not in it.
+    world.addFrame(1);
+    world.life.finishSaves();
+    QCOMPARE(ProjectWorld::fileBytes(world.path("p.kzfx")).count("<Frame "), 1);
+    QVERIFY(world.global.projectChanged());
+    QVERIFY(world.life.saveProjectXmlFile(Zum::SaveProjectXMLonly));
+    QTRY_COMPARE(ProjectWorld::fileBytes(world.path("p.kzfx")).count("<Frame "), 2);
+    QVERIFY(!world.global.projectChanged());
+}
+
+void TestProjectSaving::aFailedWriteInTheBackgroundHasTheProjectChangedAgain()
+{
+    ProjectWorld world;
+    QVERIFY(world.createProject("p.kzfx"));
+    world.addFrame(0);
+    QVERIFY(QFile::remove(world.path("p.kzfx")));
+    QVERIFY(ProjectWorld::writeFile(world.path("p.kzfx/old"), "kept"));
+    QVERIFY(world.life.saveProjectXmlFile(Zum::SaveProjectXMLonly));
+    QTRY_VERIFY(world.hasSaid("could not be saved", Zum::Error));
+    QCOMPARE(ProjectWorld::fileBytes(world.path("p.kzfx/old")), QByteArray("kept"));
+    QVERIFY(world.global.projectChanged());
+    QVERIFY(!world.life.allowQuietExit());
+}
+
+void TestProjectSaving::aSaveComesAfterTheOneInTheBackground()
+{
+    ProjectWorld world;
+    QVERIFY(world.createProject("p.kzfx"));
+    for (int frames = 1; frames <= 20; ++frames) {
+        world.addFrame(frames);
+        QVERIFY(world.life.saveProjectXmlFile(Zum::SaveProjectXMLonly));
+        QVERIFY(world.life.saveProjectXmlFile(Zum::SaveProjectXMLonly));
+        QVERIFY(world.life.saveProjectXmlFile(Zum::SaveProject));
+        QCOMPARE(ProjectWorld::fileBytes(world.path("p.kzfx")).count("<Frame "), frames);
+    }
+    world.life.finishSaves();
+    QCOMPARE(ProjectWorld::fileBytes(world.path("p.kzfx")).count("<Frame "), 20);
+}
+
+void TestProjectSaving::closingWaitsForTheSaveInTheBackground()
+{
+    ProjectWorld world;
+    QVERIFY(world.createProject("p.kzfx"));
+    world.addFrame(0);
+    QVERIFY(world.life.saveProjectXmlFile(Zum::SaveProjectXMLonly));
+    world.life.closeProject();
+    QCOMPARE(ProjectWorld::fileBytes(world.path("p.kzfx")).count("<Frame "), 1);
+    QVERIFY(world.life.allowQuietExit());
+}
+
+void TestProjectSaving::anotherProjectIsNotOpenedOverAFailedSaveInTheBackground()
+{
+    ProjectWorld world;
+    const QString other = world.writeProject("q.kzfx", 1);
+    QVERIFY(world.createProject("p.kzfx"));
+    world.addFrame(0);
+    QVERIFY(QFile::remove(world.path("p.kzfx")));
+    QVERIFY(ProjectWorld::writeFile(world.path("p.kzfx/old"), "kept"));
+    QSignalSpy confirm(&world.life, &ProjectLifecycle::confirmClose);
+    QVERIFY(world.life.saveProjectXmlFile(Zum::SaveProjectXMLonly));
+    QCOMPARE(world.life.projectFileOpen(other), int(Zum::FileSelectionCanceled));
+    QCOMPARE(confirm.count(), 1);
+    QCOMPARE(world.paths.projPath(), world.path("p.kzfx"));
 }
 
 void TestProjectSaving::aFailedSaveTellsTheUserAndKeepsTheOldFile()

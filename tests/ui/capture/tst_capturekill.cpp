@@ -125,13 +125,15 @@ void TestCaptureKill::round(int waitMs, Outcome &outcome)
     const ProjectReadResult read = ProjectReader::readFile(path);
     QVERIFY2(read.status == ProjectReadResult::Status::Ok, qPrintable(read.error));
     const QList<ProjectFrame> &rows = read.document.frames;
-    QVERIFY(rows.size() >= shown.size());
     const QDir pictures(folder.filePath(u"film_files/cap"_s));
     for (qsizetype i = 0; i < rows.size(); ++i) {
         if (i < shown.size())
             QCOMPARE(rows.at(i).capFull, shown.at(i));
         QVERIFY(pictures.exists(rows.at(i).capFull));
     }
+    // The write of the last rows may have been cut off; their pictures are offered back in their order.
+    for (const QString &name : shown)
+        QVERIFY(pictures.exists(name));
     // What has its name is whole: with both ends of the file, and readable.
     const QStringList files = pictures.entryList(QDir::Files);
     for (const QString &name : files) {

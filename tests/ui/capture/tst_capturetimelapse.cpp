@@ -91,7 +91,7 @@ void TestCaptureTimeLapse::timeLapseShootsByTheClock()
     QVERIFY(!shell.global().zeitRafferRunning());
     QVERIFY(!ticker->running);
     QCOMPARE(shell.told("Time-Lapse Photography: Time-lapse photography tool stopped"), 1);
-    QCOMPARE(shell.framesInProjectFile(), 4);
+    QTRY_COMPARE(shell.framesInProjectFile(), 4);
 }
 
 void TestCaptureTimeLapse::timeLapseUnitsCutTheTimes_data()
