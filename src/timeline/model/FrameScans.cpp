@@ -8,11 +8,45 @@ using morvane::frameKey;
 
 struct FrameBatches::Scan
 {
+    /// What a row says of itself.
+    struct Marks
+    {
+        int hold = Frame::notHeld;
+        bool capturedMissing = false;
+        bool referenceMissing = false;
+    };
+    /// A row of which there is something to write or to log.
+    struct News
+    {
+        int row = 0;
+        HoldScan::Finding finding;
+    };
+
     HoldScan::Request request;
-    std::vector<HoldScan::Finding> findings;
+    /// Of all rows, at the time of the snapshot.
+    std::vector<Marks> marks;
+    std::vector<News> news;
     /// Revision of the rows that the snapshot was taken from.
     quint64 revision = 0;
+
+    void run(const std::atomic<bool> &cancelled);
 };
+
+// Most scans find nearly all rows as they were, so the main thread goes through the others alone.
+void FrameBatches::Scan::run(const std::atomic<bool> &cancelled)
+{
+    const auto isNew = [](HoldScan::File file, bool missing) {
+        return file == HoldScan::File::Missing || (file == HoldScan::File::There && missing);
+    };
+    int row = request.range.first;
+    for (const HoldScan::Finding &finding : HoldScan::scan(request, cancelled)) {
+        const Marks &mark = marks[size_t(row)];
+        if (finding.hold != mark.hold || isNew(finding.captured, mark.capturedMissing)
+            || isNew(finding.reference, mark.referenceMissing))
+            news.push_back({row, finding});
+        ++row;
+    }
+}
 
 void FrameBatches::scanHolds(HoldScan::Range range)
 {
@@ -20,8 +54,10 @@ void FrameBatches::scanHolds(HoldScan::Range range)
     scan->revision = revision();
     scan->request.range = range;
     scan->request.rows.reserve(size_t(framesCount()));
+    scan->marks.reserve(size_t(framesCount()));
     frames().forEach(0, last(), [&scan](const Frame &frame) {
         scan->request.rows.push_back({frame.capFull, frame.refFull, frame.mirrored});
+        scan->marks.push_back({frame.staticState, frame.capfullmiss, frame.reffullmiss});
     });
     const QString captured = frameKey(Zum::CapFull);
     const QString reference = frameKey(Zum::RefFull);
@@ -29,9 +65,8 @@ void FrameBatches::scanHolds(HoldScan::Range range)
     scan->request.looksForReference = m_folders.contains(reference);
     scan->request.capturedFolder = m_folders.value(captured).toString();
     scan->request.referenceFolder = m_folders.value(reference).toString();
-    batch().runInPool(
-        [scan, cancelled = m_cancelled] { scan->findings = HoldScan::scan(scan->request, *cancelled); },
-        [this, scan] { applyHolds(scan); });
+    batch().runInPool([scan, cancelled = m_cancelled] { scan->run(*cancelled); },
+                      [this, scan] { applyHolds(scan); });
 }
 
 void FrameBatches::applyHolds(const std::shared_ptr<Scan> &scan)
@@ -40,12 +75,13 @@ void FrameBatches::applyHolds(const std::shared_ptr<Scan> &scan)
         return scan->revision != revision();
     };
     batch().runSliced(
-        int(scan->findings.size()),
+        int(scan->news.size()),
         [this, scan, isStale](int position) {
             // A shot may have come in since the snapshot was taken.
             if (isStale())
                 return false;
-            applyFinding(scan->findings[size_t(position)], scan->request.range.first + position);
+            const Scan::News &news = scan->news[size_t(position)];
+            applyFinding(news.finding, news.row);
             return true;
         },
         [this, isStale] {
