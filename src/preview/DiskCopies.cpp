@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QImageWriter>
 #include <QStorageInfo>
 
@@ -93,6 +94,16 @@ QSize DiskCopies::sourceSize(const QString &fileName, QSize loaded)
     return {sideOf(sides.first(), loaded.width()), sideOf(sides.last(), loaded.height())};
 }
 
+/// In the place of all copies of that frame.
+void DiskCopies::Listing::put(const QString &name, const Copy &copy)
+{
+    QList<Copy> &known = copies[name];
+    for (const Copy &old : std::as_const(known))
+        bytes -= old.bytes;
+    known = {copy};
+    bytes += copy.bytes;
+}
+
 /// To be called with the lock held.
 DiskCopies::Listing &DiskCopies::listing(const QString &folder)
 {
@@ -102,13 +113,17 @@ DiskCopies::Listing &DiskCopies::listing(const QString &folder)
         return listing;
     listing.changed = changed;
     listing.copies.clear();
+    listing.bytes = 0;
     QDirIterator files(folder, {filesPattern}, QDir::Files);
     while (files.hasNext()) {
         files.next();
-        listing.copies[frameOf(files.fileName())].append(files.fileName());
+        const Copy copy{files.fileName(), files.fileInfo().size()};
+        listing.copies[frameOf(copy.fileName)].append(copy);
+        listing.bytes += copy.bytes;
     }
-    for (QStringList &copies : listing.copies)
-        copies.sort();
+    for (QList<Copy> &copies : listing.copies)
+        std::sort(copies.begin(), copies.end(),
+                  [](const Copy &a, const Copy &b) { return a.fileName < b.fileName; });
     return listing;
 }
 
@@ -117,8 +132,8 @@ QString DiskCopies::find(const QString &folder, const QString &name)
     if (folder.isEmpty())
         return {};
     const std::lock_guard lock(m_mutex);
-    const QStringList copies = listing(folder).copies.value(name);
-    return copies.isEmpty() ? QString() : folder + copies.first();
+    const QList<Copy> copies = listing(folder).copies.value(name);
+    return copies.isEmpty() ? QString() : folder + copies.first().fileName;
 }
 
 void DiskCopies::write(const QString &folder, const QString &name, QSize sourceSize, const QImage &image)
@@ -126,12 +141,11 @@ void DiskCopies::write(const QString &folder, const QString &name, QSize sourceS
     const QString copy = fileName(name, sourceSize);
     if (folder.isEmpty() || !QDir(folder).exists())
         return;
-    QStringList others;
+    QList<Copy> others;
     {
         const std::lock_guard lock(m_mutex);
         others = listing(folder).copies.value(name);
     }
-    others.removeAll(copy);
     // Encoding takes its time: other workers go on looking.
     const bool written = writeImage(folder + copy, image);
     const std::lock_guard lock(m_mutex);
@@ -139,10 +153,12 @@ void DiskCopies::write(const QString &folder, const QString &name, QSize sourceS
         m_listings.remove(folder);
         return;
     }
-    for (const QString &other : std::as_const(others))
-        QFile::remove(folder + other);
+    for (const Copy &other : std::as_const(others)) {
+        if (other.fileName != copy)
+            QFile::remove(folder + other.fileName);
+    }
     Listing &known = m_listings[folder];
-    known.copies.insert(name, {copy});
+    known.put(name, {copy, QFileInfo(folder + copy).size()});
     known.changed = timeOf(folder);
 }
 
@@ -150,12 +166,8 @@ double DiskCopies::usedPercent(const QString &folder)
 {
     if (folder.isEmpty())
         return 0;
-    qint64 used = 0;
-    QDirIterator files(folder, {filesPattern}, QDir::Files);
-    while (files.hasNext()) {
-        files.next();
-        used += files.fileInfo().size();
-    }
+    const std::lock_guard lock(m_mutex);
+    const qint64 used = listing(folder).bytes;
     const qint64 available = std::max(qint64(0), QStorageInfo(folder).bytesAvailable());
     return used + available > 0 ? 100.0 * double(used) / double(used + available) : 0;
 }

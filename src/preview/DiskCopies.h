@@ -28,15 +28,23 @@ public:
     /// the frame's own file is read again the next time.
     void write(const QString &folder, const QString &name, QSize sourceSize, const QImage &image);
     /// What the copies take of the space that they and the free space of their disk make together, in per
-    /// cent. Looks at every file of the folder.
-    static double usedPercent(const QString &folder);
+    /// cent.
+    double usedPercent(const QString &folder);
 
 private:
+    struct Copy
+    {
+        QString fileName;
+        qint64 bytes = 0;
+    };
     struct Listing
     {
         std::filesystem::file_time_type changed;
-        /// File names of the copies by frame, in their order.
-        QHash<QString, QStringList> copies;
+        /// By frame, in the order of their names.
+        QHash<QString, QList<Copy>> copies;
+        qint64 bytes = 0;
+
+        void put(const QString &name, const Copy &copy);
     };
 
     Listing &listing(const QString &folder);

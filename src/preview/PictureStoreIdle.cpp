@@ -32,7 +32,7 @@ bool PictureStore::measureDisk()
         return false;
     m_diskUseStale = false;
     if (m_reports.diskUsedPercent)
-        m_reports.diskUsedPercent(DiskCopies::usedPercent(m_surroundings.folders().copies));
+        m_reports.diskUsedPercent(m_surroundings.copies->usedPercent(m_surroundings.folders().copies));
     return true;
 }
 
