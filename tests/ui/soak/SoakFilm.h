@@ -57,10 +57,14 @@ public:
     {
         int frames = 0;
         ProcessFigures process;
+        /// Pictures that the views of the film keep in memory.
+        double cacheBytes = 0;
         int objects = 0;
         int items = 0;
         /// A shot, the mean since the sample before.
         double shotMs = 0;
+        /// What of it the main thread was at work, whatever else the machine does.
+        double mainThreadMs = 0;
         /// The longest time in which the main thread did not come to its event loop since the sample before.
         double longestGapMs = 0;
         qint64 livePictures = 0;
@@ -82,13 +86,24 @@ public:
     }
     /// What the program's clock shows now, as it stands in names.
     QString timeStamp() const;
+    /// Of the program's time.
+    double hours() const
+    {
+        return double(m_clock->nowMs()) / 3600e3;
+    }
+
+signals:
+    /// There is one more of them.
+    void sampled();
 
 private:
     ShellWindow::Options options();
+    QDateTime now() const;
+    QString stateNow() const;
     void goOn();
     void takeSample();
     void beat();
-    int countItems(const QQuickItem *item) const;
+    void count(const QQuickItem *item, Sample &sample) const;
 
     std::shared_ptr<FakeCaptureClock> m_clock = std::make_shared<FakeCaptureClock>();
     SoakTime *m_time = nullptr;
@@ -100,6 +115,7 @@ private:
     QElapsedTimer m_sinceBeat;
     QElapsedTimer m_sinceSample;
     double m_longestGapMs = 0;
+    double m_mainThreadMs = 0;
     int m_wanted = 0;
     int m_framesPerSample = 1;
     int m_asked = 0;
