@@ -2,6 +2,7 @@
 
 #include "shared/TimeText.h"
 
+#include <ctime>
 #include <QFileInfo>
 #include <QTest>
 
@@ -13,6 +14,13 @@ constexpr int longestShotMs = 60000;
 constexpr int heartMs = 4;
 /// Looks at the handles, as one may be open for a moment while a thread reads a file.
 constexpr int looks = 25;
+
+double threadWorkMs()
+{
+    timespec used{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &used);
+    return double(used.tv_sec) * 1e3 + double(used.tv_nsec) / 1e6;
+}
 
 } // namespace
 
@@ -65,14 +73,19 @@ ShellWindow::Options SoakFilm::options()
         return time;
     };
     options.now = [this] {
-        return QDateTime(QDate(2026, 3, 14), QTime(9, 0), Qt::UTC).addMSecs(m_clock->nowMs());
+        return now();
     };
     return options;
 }
 
+QDateTime SoakFilm::now() const
+{
+    return QDateTime(QDate(2026, 3, 14), QTime(9, 0), Qt::UTC).addMSecs(m_clock->nowMs());
+}
+
 QString SoakFilm::timeStamp() const
 {
-    return morvane::timeStamp(options().now());
+    return morvane::timeStamp(now());
 }
 
 QString SoakFilm::shoot(int frames, int framesPerSample)
@@ -90,17 +103,32 @@ QString SoakFilm::shoot(int frames, int framesPerSample)
         return QStringLiteral("the time-lapse does not shoot every two seconds");
     m_watchdog.start();
     m_heart.start();
+    m_mainThreadMs = threadWorkMs();
     m_sinceBeat.start();
     m_sinceSample.start();
     const bool stuck = m_loop.exec() != 0;
     m_heart.stop();
     m_watchdog.stop();
     if (stuck)
-        return QStringLiteral("stuck at frame %1: %2")
-            .arg(m_shell->framesNow())
-            .arg(m_shell->messages().join(u' '));
+        return stateNow();
     m_shell->click(m_shell->control(QStringLiteral("startTimeLapse")));
     return m_shell->global().zeitRafferRunning() ? QStringLiteral("the time-lapse does not stop") : QString();
+}
+
+QString SoakFilm::stateNow() const
+{
+    const WebcamGlobal &global = m_shell->global();
+    return QStringLiteral(
+               "stuck at frame %1: asked %2, drawn since %3, shot under way %4, paused %5, ready %6, "
+               "pictures %7, dialog '%8', messages: %9")
+        .arg(m_shell->framesNow())
+        .arg(m_asked)
+        .arg(m_shown)
+        .arg(global.capturingInprogress())
+        .arg(global.paused())
+        .arg(global.ready())
+        .arg(m_shell->demo().delivered())
+        .arg(m_shell->window().qmlDialogUrl(), m_shell->messages().join(u' '));
 }
 
 // The next shot, once the one before has its row and the screen has been drawn since.
@@ -119,7 +147,8 @@ void SoakFilm::goOn()
     m_watchdog.start();
     m_asked = frames + 1;
     m_shown = false;
-    m_time->jump();
+    // In a turn of the event loop of its own, as two ticks in one turn count as one.
+    QMetaObject::invokeMethod(m_time, &SoakTime::jump, Qt::QueuedConnection);
 }
 
 void SoakFilm::beat()
@@ -129,13 +158,15 @@ void SoakFilm::beat()
     m_sinceBeat.start();
 }
 
-int SoakFilm::countItems(const QQuickItem *item) const
+void SoakFilm::count(const QQuickItem *item, Sample &sample) const
 {
-    int count = 1;
+    ++sample.items;
+    if (item->inherits("RamPreview"))
+        sample.cacheBytes += item->property("cacheMaxInBytes").toDouble() / 100
+                             * item->property("cacheUsedPercent").toDouble();
     const QList<QQuickItem *> children = item->childItems();
     for (const QQuickItem *child : children)
-        count += countItems(child);
-    return count;
+        count(child, sample);
 }
 
 void SoakFilm::takeSample()
@@ -143,7 +174,10 @@ void SoakFilm::takeSample()
     Sample sample;
     sample.frames = m_shell->framesNow();
     sample.shotMs = double(m_sinceSample.nsecsElapsed()) / 1e6 / m_framesPerSample;
+    sample.mainThreadMs = (threadWorkMs() - m_mainThreadMs) / m_framesPerSample;
     sample.longestGapMs = m_longestGapMs;
+    // A file that is being written would count as a handle.
+    m_shell->controllers().lifecycle.finishSaves();
     sample.process = ProcessFigures::now();
     for (int look = 1; look < looks; ++look) {
         QTest::qSleep(1);
@@ -153,11 +187,13 @@ void SoakFilm::takeSample()
     }
     sample.objects = int(m_shell->window().findChildren<QObject *>().size()
                          + m_shell->root().findChildren<QObject *>().size());
-    sample.items = countItems(m_shell->window().contentItem());
+    count(m_shell->window().contentItem(), sample);
     sample.livePictures = m_shell->demo().delivered();
     sample.projectFileBytes = QFileInfo(m_shell->window().projPath()).size();
     m_samples.append(sample);
+    emit sampled();
     m_longestGapMs = 0;
+    m_mainThreadMs = threadWorkMs();
     m_sinceBeat.start();
     m_sinceSample.start();
 }

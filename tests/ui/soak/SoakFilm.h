@@ -63,6 +63,8 @@ public:
         int items = 0;
         /// A shot, the mean since the sample before.
         double shotMs = 0;
+        /// What of it the main thread was at work, whatever else the machine does.
+        double mainThreadMs = 0;
         /// The longest time in which the main thread did not come to its event loop since the sample before.
         double longestGapMs = 0;
         qint64 livePictures = 0;
@@ -113,6 +115,7 @@ private:
     QElapsedTimer m_sinceBeat;
     QElapsedTimer m_sinceSample;
     double m_longestGapMs = 0;
+    double m_mainThreadMs = 0;
     int m_wanted = 0;
     int m_framesPerSample = 1;
     int m_asked = 0;
