@@ -107,7 +107,7 @@ void compare(const char *name, int runs, const QVariantMap &settings, Filter fil
 
 int main(int argc, char **argv)
 {
-    const int runs = figures::quick(argc, argv) ? 3 : 15;
+    const int runs = figures::quick(argc, argv) ? 3 : 9;
     compare("contrast", runs, {{"contrast", 20}}, contrast);
     compare("saturation", runs, {{"saturation", 80}}, saturation);
     compare("denoise", runs, {{"denoise", 30}}, denoise);

@@ -150,7 +150,7 @@ int main(int argc, char **argv)
 {
     const QGuiApplication app(argc, argv);
     const bool quick = figures::quick(argc, argv);
-    const int runs = quick ? 5 : 21;
+    const int runs = quick ? 5 : 15;
     measureFirst(runs);
     measureCopy(runs);
     measureCached(10 * runs);

@@ -207,7 +207,6 @@ int main(int argc, char **argv)
     const double before = figures::residentMb();
     scroller.endToEnd(halfPage, everything);
     scroller.jumps(quick ? 20 : 200);
-    scroller.endToEnd(halfPage, everything);
     figures::print("scroll-memory", figures::residentMb() - before);
     figures::print("scroll-cpu", scroller.longest().cpu);
     figures::print("scroll-gap", scroller.longest().wall);

@@ -79,7 +79,7 @@ bool DemoWebcam::read(cv::Mat &picture)
         m_rendered = render();
     const QSize forced = m_controls->forcedSize();
     if (forced.isEmpty())
-        picture = m_rendered.clone();
+        picture = m_rendered;
     else
         cv::resize(m_rendered, picture, cv::Size(forced.width(), forced.height()), 0, 0, cv::INTER_AREA);
     if (m_controls->channels() == 1)

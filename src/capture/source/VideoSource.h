@@ -22,7 +22,8 @@ public:
     }
     virtual bool isOpened() const = 0;
     /// Blocks until there is a picture, and gives it in the order blue, green, red. False, or an empty one,
-    /// when nothing was delivered. The picture is the caller's own.
+    /// when nothing was delivered. The picture may be given again, so nobody changes its
+    /// pixels.
     virtual bool read(cv::Mat &picture) = 0;
     virtual bool set(int property, double value) = 0;
     /// The value, or a negative number when the source does not have the property.
