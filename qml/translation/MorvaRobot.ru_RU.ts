@@ -104,10 +104,6 @@
         <translation>Сцена: %1</translation>
     </message>
     <message>
-        <source>The part of the program that makes movies is missing or damaged. Install the program again. %1</source>
-        <translation>Часть программы, которая создаёт фильмы, отсутствует или повреждена. Установите программу заново. %1</translation>
-    </message>
-    <message>
         <source>Set a larger frame width and height in the Project panel</source>
         <translation>Задайте большие ширину и высоту кадра на панели «Проект»</translation>
     </message>
@@ -118,6 +114,10 @@
     <message>
         <source>The bit rate comes with the project&apos;s file: change it there, or import the frames into a new project</source>
         <translation>Битрейт записан в файле проекта: измените его там или импортируйте кадры в новый проект</translation>
+    </message>
+    <message>
+        <source>The part of the program that makes movies is missing or damaged. Install the program again. %1</source>
+        <translation>Часть программы, которая создаёт фильмы, отсутствует или повреждена. Установите программу заново. %1</translation>
     </message>
     <message>
         <source>This job is not available</source>

@@ -283,7 +283,9 @@ void TestCameraList::filesThatCannotBeUsedAreRefused()
 {
     FileCameras &files = environment->files();
     QCOMPARE(files.add(folder->filePath("none.mp4")), -1);
-    QCOMPARE(files.errorString(), QString("The file %1 does not exist").arg(folder->filePath("none.mp4")));
+    QCOMPARE(files.errorString(),
+             QString("The file %1 does not exist. Choose it again in the list of devices")
+                 .arg(folder->filePath("none.mp4")));
     QFile text(folder->filePath("a.txt"));
     QVERIFY(text.open(QIODevice::WriteOnly));
     QCOMPARE(files.add(text.fileName()), -1);

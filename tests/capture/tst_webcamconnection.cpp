@@ -250,7 +250,9 @@ void TestWebCamConnection::aConnectionWithoutEnvironmentFindsNoCamera()
     WebCamWindow window;
     QSignalSpy told(&window, &WebCamWindow::message);
     window.connects();
-    QCOMPARE(told.size(), 2);
+    QCOMPARE(told.size(), 3);
+    QCOMPARE(told.at(1).first().toInt(), int(Zum::Info));
+    QVERIFY(told.at(1).last().toString().startsWith("Close other programs that use the camera"));
     QCOMPARE(told.last().first().toInt(), int(Zum::Error));
     QVERIFY(!window.busy() && !window.threadIsRunning());
 }

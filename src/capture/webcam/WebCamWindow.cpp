@@ -367,7 +367,7 @@ void WebCamWindow::takeSizes()
 
 void WebCamWindow::noCamera(const QString &loadError)
 {
-    if (!connected())
+    if (!connected() && loadError.isEmpty())
         emit message(Zum::Info,
                      tr("Close other programs that use the camera, choose another one in the list of "
                         "devices, or take the Demo Webcam"));
