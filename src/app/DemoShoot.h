@@ -157,5 +157,7 @@ private:
     /// Frames that there are when the shot under way has ended well.
     int m_framesToCome = 0;
     bool m_hasPlayed = false;
+    /// Finished ones that have not shown every frame.
+    int m_playbacks = 0;
     QSet<int> m_playedRows;
 };

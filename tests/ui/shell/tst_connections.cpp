@@ -59,7 +59,7 @@ void TestConnections::capturedFrameIsSavedAndShown()
     shell.frames().setCurrentIndex(0);
     QSignalSpy jumps(&shell.global(), &WebcamGlobal::timelineGotoEnd);
     shell.frames().appendFrame({{"capFull", "frame_norm_000003_260314150926.jpg"}}, true);
-    QVERIFY(shell.projectFileText().contains("frame_norm_000003_260314150926.jpg"));
+    QTRY_VERIFY(shell.projectFileText().contains("frame_norm_000003_260314150926.jpg"));
     QVERIFY(!shell.global().projectChanged());
     QCOMPARE(jumps.count(), 1);
     QVERIFY(shell.frames().last() > 2);
@@ -230,7 +230,7 @@ void TestConnections::savingSignals()
 
     QVERIFY(QMetaObject::invokeMethod(&shell.global(), signal.data()));
     QTRY_VERIFY(!shell.global().projectChanged());
-    QVERIFY(shell.projectFileText().contains("The Hare"));
+    QTRY_VERIFY(shell.projectFileText().contains("The Hare"));
     QTRY_COMPARE(QFile::exists(stray), !cleans);
 }
 
@@ -255,7 +255,7 @@ void TestConnections::autosaveTicks()
     shell.global().setMovieTitle("The Hare");
     tick();
     QCOMPARE(autosaves.count(), 1);
-    QVERIFY(shell.projectFileText().contains("The Hare"));
+    QTRY_VERIFY(shell.projectFileText().contains("The Hare"));
     QVERIFY(!shell.window().pauseAutosave());
 
     // With nothing to save it rests until the next change.

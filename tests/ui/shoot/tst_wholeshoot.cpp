@@ -202,7 +202,7 @@ void TestWholeShoot::twelveFramesAreShot()
         const int before = frames().framesCount();
         SHOOT_DO(shoot());
         QCOMPARE(frames().framesCount(), before + 1);
-        QCOMPARE(m_film.elements(u"Frame"_s).size(), before + 1);
+        QTRY_COMPARE(m_film.elements(u"Frame"_s).size(), before + 1);
     }
     m_pictures = pictureNames();
     QCOMPARE(QSet<QString>(m_pictures.begin(), m_pictures.end()).size(), shots);
