@@ -13,6 +13,8 @@ Item {
     property bool last: false
     // What the text tells went wrong.
     property bool warns: false
+    // Leaves out what the step's name and its buttons say as well.
+    property bool brief: false
     default property alias content: controls.data
     readonly property string progress: done ? qsTr("done") : present ? qsTr("now") : qsTr("later")
 
@@ -75,7 +77,7 @@ Item {
         TextLabel {
             objectName: "stepText"
             width: parent.width
-            visible: text !== ""
+            visible: text !== "" && (!step.brief || step.warns)
             wrapMode: Text.Wrap
             elide: Text.ElideNone
             small: !step.present

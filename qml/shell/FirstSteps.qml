@@ -7,6 +7,8 @@ FocusScope {
 
     required property var scene
     readonly property bool hasProject: MainWindow.projectLoaded
+    // With little room the buttons of the present step come first.
+    readonly property bool low: height < 16 * DefFontSizeNormal
 
     // The buttons of a step that was taken are gone.
     onHasProjectChanged: {
@@ -32,6 +34,7 @@ FocusScope {
             id: heading
 
             width: parent.width
+            visible: !firstSteps.low
             wrapMode: Text.Wrap
             elide: Text.ElideNone
             font.pixelSize: DefFontSizeBigger
@@ -50,6 +53,7 @@ FocusScope {
                 scene: firstSteps.scene
                 done: firstSteps.hasProject
                 present: !done
+                brief: firstSteps.low
             }
 
             FirstStepCamera {
@@ -60,12 +64,14 @@ FocusScope {
                 scene: firstSteps.scene
                 done: WebcamGlobal.connected
                 present: firstSteps.hasProject && !done
+                brief: firstSteps.low
             }
 
             FirstStep {
                 objectName: "stepShoot"
                 width: parent.width
                 number: 3
+                brief: firstSteps.low
                 last: true
                 title: qsTr("Shoot")
                 text: qsTr("Pose the puppet and press Enter for each frame.")

@@ -114,7 +114,9 @@ Item {
         anchors.left: picture.right
         anchors.leftMargin: Theme.spacing
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(Math.ceil(implicitWidth), run.maximumX - x - Theme.padding)
+        // The button says it too, where the line is too short for both.
+        visible: Math.ceil(implicitWidth) <= run.maximumX - x - Theme.padding
+        width: visible ? Math.ceil(implicitWidth) : 0
         small: true
         color: Theme.active
         text: hint.entry ? hint.entry.text : ""

