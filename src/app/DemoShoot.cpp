@@ -12,9 +12,9 @@ namespace {
 
 /// How long the program may take to come to rest before it is told to quit all the same, and the time between
 /// two attempts; the last of them goes through whatever refuses.
-constexpr int mostPlaybacks = 5;
 constexpr int mostTicksToRest = 30;
 constexpr int ticksBetweenAttempts = 10;
+constexpr int mostPlaybacks = 5;
 
 const QString timingTab = QStringLiteral("timingUIisOn");
 
