@@ -507,7 +507,7 @@
     </message>
     <message>
         <source>See it move: the Timing tab plays the frames</source>
-        <translation>Посмотрите на движение: кадры играет вкладка «Тайминг»</translation>
+        <translation>Смотрите движение на вкладке «Тайминг»</translation>
     </message>
     <message>
         <source>Space</source>

