@@ -199,6 +199,9 @@ void FilmWindow::clickItem(const char *property, const QString &value)
     QQuickItem *item = m_shell->findItem(property, value);
     QVERIFY2(item != nullptr, qPrintable(value));
     shownItems::bringIntoSight(item);
+    // What begins while the click is on its way would refuse it.
+    QVERIFY(m_shell->settle());
+    QVERIFY(waitIdle());
     m_shell->click(item);
 }
 
