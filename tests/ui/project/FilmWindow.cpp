@@ -117,6 +117,9 @@ void FilmWindow::shoot(const QString &project, int first, int count)
         QVERIFY(writePicture(project, number));
         frames().appendFrame(
             {{u"capFull"_s, pictureName(number)}, {u"capTumb"_s, pictureName(number, u"mini"_s)}}, true);
+        // The strip goes to a new frame when it comes to rest.
+        m_shell->controllers().lifecycle.finishSaves();
+        QVERIFY(m_shell->settle());
         QVERIFY(waitIdle());
     }
 }
