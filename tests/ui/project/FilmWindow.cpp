@@ -117,11 +117,10 @@ void FilmWindow::shoot(const QString &project, int first, int count)
         QVERIFY(writePicture(project, number));
         frames().appendFrame(
             {{u"capFull"_s, pictureName(number)}, {u"capTumb"_s, pictureName(number, u"mini"_s)}}, true);
-        // The strip goes to a new frame when it comes to rest.
-        m_shell->controllers().lifecycle.finishSaves();
-        QVERIFY(m_shell->settle());
-        QVERIFY(waitIdle());
     }
+    // Half a second after a shot the last frame becomes the current one once more.
+    QVERIFY(QTest::qWaitFor([pause = m_shell->timer(500)] { return !pause->property("running").toBool(); }));
+    m_shell->controllers().lifecycle.finishSaves();
 }
 
 QStringList FilmWindow::rows()
