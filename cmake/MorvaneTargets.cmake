@@ -8,7 +8,9 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+    # Without these it leaves out what is compiled with precompiled headers.
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE_PROGRAM})
 endif()
 
 # Linking the tests takes a quarter of the time with this linker.
@@ -34,6 +36,8 @@ function(morvane_library name)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;LINKS")
     add_library(morvane_${name} STATIC ${ARG_SOURCES})
     add_library(Morvane::${name} ALIAS morvane_${name})
+    # The headers of a few files cost more than the files: compiled together they take a quarter of the time.
+    set_target_properties(morvane_${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
     target_include_directories(morvane_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(morvane_${name} PUBLIC ${ARG_LINKS} PRIVATE morvane_options)
 endfunction()
@@ -59,13 +63,35 @@ function(morvane_module name)
     install(TARGETS morvane_${name}_module LIBRARY DESTINATION ${MORVANE_MODULE_FOLDER})
 endfunction()
 
+# What users of one set of precompiled headers must have in common. Where a test lies is nothing that one asks for.
+add_library(morvane_test_headers INTERFACE)
+target_include_directories(morvane_test_headers INTERFACE ${PROJECT_SOURCE_DIR}/tests)
+target_compile_options(morvane_test_headers INTERFACE
+    -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+target_link_libraries(morvane_test_headers INTERFACE Qt6::Test)
+
+# Reading the headers is most of the work of compiling a test. Two libraries have read them for all: one for tests that
+# link the whole program, one for those that link a part of it with frames or pictures.
+function(morvane_precompiled_headers name links)
+    if(links MATCHES "Morvane::app|morvane_shell_window|(control|dialog)_host")
+        set(owner morvane_shell_window)
+    elseif(links MATCHES "Morvane::(timeline|preview|capture|project|jobs)|morvane_(project_samples|jobs_support)")
+        set(owner morvane_frames_headers)
+    else()
+        return()
+    endif()
+    target_precompile_headers(${name} REUSE_FROM ${owner})
+    set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp
+        PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+endfunction()
+
 # morvane_test(tst_x SOURCES ... LINKS ... [UI] [TIMEOUT seconds]): one QtTest executable run by ctest.
 # Without UI it runs on the offscreen platform; with UI in a window of its own virtual screen.
 function(morvane_test name)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "UI" "TIMEOUT" "SOURCES;LINKS")
     add_executable(${name} ${ARG_SOURCES})
-    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test morvane_options)
+    target_link_libraries(${name} PRIVATE ${ARG_LINKS} morvane_test_headers morvane_options)
+    morvane_precompiled_headers(${name} "${ARG_LINKS}")
     target_compile_definitions(${name} PRIVATE
         MORVANE_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data" MORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     if(ARG_UI)

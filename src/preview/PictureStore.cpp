@@ -10,9 +10,8 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds handoverLimit{200};
+constexpr std::chrono::milliseconds putLimit{200};
 constexpr double fullStrength = 1.0;
-constexpr int captureCacheBytes = 155520000;
 /// Pictures that wait for their copy to be written: more are not kept, the oldest is written at once.
 constexpr size_t mostPendingCopies = 3;
 
@@ -35,7 +34,7 @@ PictureStore::PictureStore(Surroundings surroundings, Reports reports)
     : m_surroundings(std::move(surroundings)), m_reports(std::move(reports)),
       m_cache(std::make_unique<MemoryCache>())
 {
-    m_cache->setMaxBytes(captureCacheBytes);
+    m_cache->setMaxBytes(standardCacheBytes);
 }
 
 PictureStore::~PictureStore() = default;
@@ -240,7 +239,7 @@ void PictureStore::deliver(const QString &key)
         qDebug("find: cache is null");
     else if (const MemoryCache::Entry *entry = m_cache->find(key))
         image = entry->image;
-    m_handover.put(image, handoverLimit);
+    m_handover.put(image, putLimit);
     m_busy = false;
     tell(m_reports.finished);
     tell(m_reports.caching, false);
@@ -295,7 +294,7 @@ void PictureStore::release()
     m_cache.reset();
     m_pendingCopies.clear();
     m_plan = {};
-    m_handover.put({}, handoverLimit);
+    m_handover.put({}, putLimit);
 }
 
 void PictureStore::reportUsed(double percent) const

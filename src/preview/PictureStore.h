@@ -24,6 +24,9 @@ struct PictureGeometry;
 class PictureStore
 {
 public:
+    /// How much memory it takes for pictures until it is told otherwise.
+    static constexpr int standardCacheBytes = 155520000;
+
     /// Folders with a trailing "/"; without one for the copies there are none.
     struct Folders
     {

@@ -11,12 +11,11 @@
 
 namespace {
 
-constexpr int captureCacheBytes = 155520000;
 constexpr int smallestCropLimit = 10;
 constexpr int forcedUpdateDelayMs = 1000;
 constexpr int cachingNoticeMs = 1000;
 constexpr int processingDelayMs = 800;
-constexpr std::chrono::milliseconds handoverLimit{100};
+constexpr std::chrono::milliseconds takeLimit{100};
 
 PictureStore::Folders projectFolders()
 {
@@ -48,7 +47,8 @@ bool isRealChange(qreal a, qreal b)
 } // namespace
 
 RamPreview::RamPreview(QQuickItem *parent)
-    : RamPreviewReport(parent), m_thread(this, projectSurroundings()), m_cacheMaxInBytes(captureCacheBytes)
+    : RamPreviewReport(parent), m_thread(this, projectSurroundings()),
+      m_cacheMaxInBytes(PictureStore::standardCacheBytes)
 {
     setFlag(ItemHasContents);
     setAcceptHoverEvents(true);
@@ -242,7 +242,7 @@ void RamPreview::endedInThread()
 bool RamPreview::takeDelivered()
 {
     QImage delivered;
-    if (!m_thread.worker().handover().take(delivered, handoverLimit))
+    if (!m_thread.worker().handover().take(delivered, takeLimit))
         return false;
     // What comes for a name that was taken away meanwhile is not shown.
     m_image = m_imageName.isEmpty() ? QImage() : delivered;
