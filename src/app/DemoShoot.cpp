@@ -226,10 +226,8 @@ void DemoShoot::leaveWhenQuiet()
     if (m_quitAsked && m_quietTicks < ticksBetweenAttempts)
         return;
     // Whatever has happened, what there is so far is kept.
-    if (!m_quitAsked && m_window.projectLoaded() && !m_window.allowQuietExit()) {
+    if (!m_quitAsked && m_window.projectLoaded() && !m_window.allowQuietExit())
         m_window.saveProjectXmlFile(Zum::SaveProjectXMLonly);
-        m_window.controllers().lifecycle.finishSaves();
-    }
     m_quitAsked = true;
     m_quietTicks = isLate ? mostTicksToRest - ticksBetweenAttempts : 0;
     m_window.quit(true);

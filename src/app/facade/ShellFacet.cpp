@@ -59,8 +59,11 @@ QVariantList ShellFacet::docs() const
 
 void ShellFacet::quit(bool force)
 {
-    if (force)
+    if (force) {
+        // A save that fails only now must not bring back the question that has been answered.
+        controllers().lifecycle.finishSaves();
         controllers().lifecycle.setAllowQuietExit(true);
+    }
     QCloseEvent event;
     closeEvent(&event);
 }

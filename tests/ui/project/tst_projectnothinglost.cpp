@@ -39,6 +39,8 @@ private slots:
     void damagedProjectIsNotImported();
     void frameWithAPathIsRefusedAndNothingOutsideIsTouched();
     void saveThatFindsNoRoomIsToldAndLeavesTheOldFile();
+    void shotThatFindsNoRoomIsToldAndAskedAboutOnTheWayOut();
+    void answerToLeaveHoldsWhenTheSaveOfAShotFailsAfterIt();
 
 private:
     void makeFilms();
@@ -493,6 +495,34 @@ void TestProjectNothingLost::saveThatFindsNoRoomIsToldAndLeavesTheOldFile()
     d->press(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(!d->shell().global().projectChanged());
     QCOMPARE(d->rowsOnDisk("film"), d->rows());
+}
+
+void TestProjectNothingLost::shotThatFindsNoRoomIsToldAndAskedAboutOnTheWayOut()
+{
+    makeFilms();
+    QVERIFY(d->writePicture("film", 3));
+    const auto before = d->listing();
+    {
+        const FullDisk disk(16);
+        d->frames().appendFrame({{"capFull", FilmWindow::pictureName(3)}}, true);
+        d->press(Qt::Key_Q, Qt::ControlModifier);
+    }
+    QVERIFY2(told().contains("The project could not be saved: File too large"), qPrintable(told()));
+    QCOMPARE(d->shell().quits(), 0);
+    QCOMPARE(d->listing(), before);
+    answer("Ok");
+    QTRY_COMPARE(d->shell().quits(), 1);
+    QCOMPARE(d->rowsOnDisk("film"), (QStringList{"0", "1", "2", "3"}));
+}
+
+void TestProjectNothingLost::answerToLeaveHoldsWhenTheSaveOfAShotFailsAfterIt()
+{
+    makeFilms();
+    QVERIFY(d->writePicture("film", 3));
+    const FullDisk disk(16);
+    d->frames().appendFrame({{"capFull", FilmWindow::pictureName(3)}}, true);
+    d->shell().window().quit(true);
+    QCOMPARE(d->shell().quits(), 1);
 }
 
 QTEST_MAIN(TestProjectNothingLost)
