@@ -14,6 +14,11 @@ QByteArray CurvesPath::pathBytes() const
 
 void CurvesPath::readPathBytes(const QByteArray &bytes)
 {
+    if (bytes.isEmpty()) {
+        m_viewport = QSizeF();
+        m_curves.resetPath();
+        return;
+    }
     StoredPath path;
     path.data = QString::fromLatin1(bytes.toBase64());
     restore(path);
