@@ -229,6 +229,8 @@ int VideoTrack::receive()
     const ffmpeg::PacketPointer packet(av_packet_alloc());
     for (;;) {
         const int received = avcodec_receive_packet(m_context.get(), packet.get());
+        if (received == AVERROR_EOF)
+            qDebug("The encoder has been fully flushed, and there will be no more output packets");
         if (received == AVERROR(EAGAIN) || received == AVERROR_EOF)
             return 0;
         if (received < 0) {
