@@ -18,6 +18,15 @@ inline bool quick(int argc, char **argv)
     return std::any_of(argv + 1, argv + argc, [](const char *text) { return !std::strcmp(text, "--quick"); });
 }
 
+/// What the program logs would be most of what is seen, and part of what is measured.
+inline void dropLog()
+{
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+        if (type == QtFatalMsg)
+            std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+    });
+}
+
 inline double median(std::vector<double> values)
 {
     std::sort(values.begin(), values.end());

@@ -276,16 +276,12 @@ void liveOnScreen(int seconds)
     studio.device.setParentItem(nullptr);
 }
 
-void dropLog(QtMsgType, const QMessageLogContext &, const QString &)
-{
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
     const QGuiApplication app(argc, argv);
-    qInstallMessageHandler(dropLog);
+    figures::dropLog();
     const bool quick = figures::quick(argc, argv);
     grabToSharedPicture("grab-whole", fullHd);
     grabToSharedPicture("grab-half", fullHd / 2);

@@ -204,18 +204,12 @@ private:
     std::map<std::string, double> m_times;
 };
 
-void dropLog(QtMsgType type, const QMessageLogContext &, const QString &text)
-{
-    if (type == QtFatalMsg)
-        std::fprintf(stderr, "%s\n", qUtf8Printable(text));
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);
-    qInstallMessageHandler(dropLog);
+    figures::dropLog();
     const bool quick = figures::quick(argc, argv);
     constexpr int frames = 10'000;
     Film film(frames, quick ? 3 : 9);

@@ -176,18 +176,12 @@ private:
     GapMeter::Gap m_longest;
 };
 
-void dropLog(QtMsgType type, const QMessageLogContext &, const QString &text)
-{
-    if (type == QtFatalMsg)
-        std::fprintf(stderr, "%s\n", qUtf8Printable(text));
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
     const QApplication app(argc, argv);
-    qInstallMessageHandler(dropLog);
+    figures::dropLog();
     typeregistry::registerTypes();
     const bool quick = figures::quick(argc, argv);
     const Film film(quick ? 1000 : 10'000);

@@ -5,7 +5,6 @@
 
 namespace {
 double s_dpiScale = 1.0;
-bool s_headless = false;
 
 struct SharedFolders
 {
@@ -28,16 +27,6 @@ double Zum::dpiScale()
 void Zum::setDpiScale(double scale)
 {
     s_dpiScale = scale;
-}
-
-bool Zum::headless()
-{
-    return s_headless;
-}
-
-void Zum::setHeadless(bool headless)
-{
-    s_headless = headless;
 }
 
 Zum::ProjectFolders Zum::projectFolders()

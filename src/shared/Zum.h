@@ -22,10 +22,6 @@ public:
     static double dpiScale();
     static void setDpiScale(double scale);
 
-    /// Whether the program runs without a screen of its own (a batch run); false for the window.
-    static bool headless();
-    static void setHeadless(bool headless);
-
     /// Folders of the open project, each ending in "/"; all empty before the first one.
     struct ProjectFolders
     {

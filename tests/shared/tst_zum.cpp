@@ -105,7 +105,6 @@ private slots:
     void sceneReadsEveryName_data();
     void sceneReadsEveryName();
     void keepsTheScaleSetAtStart();
-    void keepsTheFlagSetAtStart();
     void keepsTheFoldersOfTheProject();
     void channelsGoToLinearLight_data();
     void channelsGoToLinearLight();
@@ -180,14 +179,6 @@ void TestZum::keepsTheScaleSetAtStart()
     Zum::setDpiScale(18 / 13.0);
     QCOMPARE(Zum::dpiScale(), 18 / 13.0);
     Zum::setDpiScale(1.0);
-}
-
-void TestZum::keepsTheFlagSetAtStart()
-{
-    QVERIFY(!Zum::headless());
-    Zum::setHeadless(true);
-    QVERIFY(Zum::headless());
-    Zum::setHeadless(false);
 }
 
 void TestZum::keepsTheFoldersOfTheProject()

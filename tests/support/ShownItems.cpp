@@ -31,6 +31,13 @@ bool isText(const QQuickItem *item)
     return item->inherits("QQuickText") && !item->property("text").toString().isEmpty();
 }
 
+bool isCutOff(const QQuickItem *item)
+{
+    return isText(item)
+           && (item->property("truncated").toBool()
+               || item->property("contentWidth").toReal() > item->width() + 1);
+}
+
 QStringList texts(QQuickItem *item)
 {
     QStringList all;
@@ -49,9 +56,7 @@ QStringList textsOutside(QQuickItem *item)
         if (!isText(shown))
             return;
         const QRectF area = shown->mapRectToScene(shown->boundingRect());
-        const bool cut = shown->property("contentWidth").toReal() > shown->width() + 1
-                         || shown->property("truncated").toBool();
-        if (cut || area.left() < box.left() || area.right() > box.right())
+        if (isCutOff(shown) || area.left() < box.left() || area.right() > box.right())
             outside.append(shown->property("text").toString());
     });
     return outside;

@@ -15,6 +15,8 @@ void visit(QQuickItem *item, const std::function<void(QQuickItem *)> &visitor);
 QQuickItem *find(QQuickItem *item, const std::function<bool(QQuickItem *)> &wanted);
 
 bool isText(const QQuickItem *item);
+/// A text that its item has no room for.
+bool isCutOff(const QQuickItem *item);
 /// The texts that are not empty.
 QStringList texts(QQuickItem *item);
 /// The texts that are cut off, or reach out of the item at its sides.

@@ -14,11 +14,6 @@ public:
     explicit UdevMonitor(QObject *parent = nullptr);
     ~UdevMonitor() override;
 
-    bool isListening() const
-    {
-        return m_monitor;
-    }
-
 private:
     void receive();
 

@@ -26,7 +26,6 @@ constexpr int mostFailures = 4;
 constexpr int pausedTurnMs = 400;
 constexpr int ratePeriodMs = 4000;
 constexpr int longestIntervalMs = 400;
-constexpr int pausingPowerFactor = 1000;
 constexpr int highestPropertyValue = 255;
 
 // In the order of Zum::WebcamProperties.

@@ -40,6 +40,8 @@ public:
     };
 
     static constexpr int shortestIntervalMs = 33;
+    /// From this power factor on the live view rests.
+    static constexpr int pausingPowerFactor = 1000;
 
     explicit WebCamLiveViewThread(Setup setup);
     ~WebCamLiveViewThread() override;

@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr int pausingPowerFactor = 1000;
 constexpr int threadEndPauseMs = 800;
 /// A thread tells of its end from within, a moment before it has ended.
 constexpr int lastMomentMs = 20;
@@ -125,7 +124,7 @@ void WebCamWindow::setPaused(bool paused)
     emit pausedChanged();
     if (paused) {
         m_powerFactorAfterPause = m_powerFactor;
-        emit powerFactorChanged(pausingPowerFactor);
+        emit powerFactorChanged(WebCamLiveViewThread::pausingPowerFactor);
     } else {
         emit powerFactorChanged(m_powerFactorAfterPause);
     }
@@ -139,7 +138,7 @@ void WebCamWindow::setPowerFactor(int powerFactor)
     // A paused live view stays so, and goes on at the new pace.
     if (m_paused)
         m_powerFactorAfterPause = powerFactor;
-    emit powerFactorChanged(m_paused ? pausingPowerFactor : powerFactor);
+    emit powerFactorChanged(m_paused ? WebCamLiveViewThread::pausingPowerFactor : powerFactor);
 }
 
 void WebCamWindow::setHistogramOn(bool on)

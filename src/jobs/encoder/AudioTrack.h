@@ -17,15 +17,6 @@ public:
     int writeUpTo(int pictures);
     int flush();
 
-    int sampleRate() const
-    {
-        return m_context->sample_rate;
-    }
-    int64_t samplesWritten() const
-    {
-        return m_samplesWritten;
-    }
-
 private:
     ffmpeg::FramePointer frameOf(int samples);
     void generate(int16_t *samples, int count);

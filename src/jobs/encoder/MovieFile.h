@@ -30,10 +30,6 @@ public:
     /// Makes the temporary file.
     int open();
     int writeHeader();
-    bool isWriting() const
-    {
-        return m_headerWritten;
-    }
     /// Takes the packet's contents; its times count in `timeBase`.
     int write(AVPacket &packet, const AVStream &stream, AVRational timeBase);
     /// The first error of writing, 0 for none.

@@ -1,5 +1,6 @@
 #include "app/Translations.h"
 #include "support/ShellWindow.h"
+#include "support/ShownItems.h"
 #include "ui/screens/SampleFilm.h"
 
 #include <QDir>
@@ -280,9 +281,7 @@ void collectCutTexts(QQuickItem *item, QStringList &cut)
 {
     if (!item->isVisible() || item->opacity() == 0)
         return;
-    if (item->inherits("QQuickText") && !item->property("text").toString().isEmpty()
-        && (item->property("truncated").toBool()
-            || item->property("contentWidth").toReal() > item->width() + 1))
+    if (shownItems::isCutOff(item))
         cut.append(item->property("text").toString());
     const QList<QQuickItem *> children = item->childItems();
     for (QQuickItem *child : children)

@@ -2,6 +2,7 @@
 
 #include "project/ProjectReader.h"
 
+#include <cstdio>
 #include <functional>
 #include <QApplication>
 #include <QImage>
@@ -85,21 +86,27 @@ double mainThreadMs(const Sample &sample)
     return sample.mainThreadMs;
 }
 
+/// A line of what was found. The test library would drop it behind the many that the program logs.
+template <typename... Values>
+void say(const char *format, Values... values)
+{
+    std::puts(qUtf8Printable(QString::asprintf(format, values...)));
+    std::fflush(stdout);
+}
+
 void printHead()
 {
-    qInfo(
-        " frames  rss MB heap MB cache MB threads files objects items shot ms main ms  gap ms    live "
+    say(" frames  rss MB heap MB cache MB threads files objects items shot ms main ms  gap ms    live "
         "project KB");
 }
 
 void print(const Sample &sample)
 {
-    qInfo("%7d %7.1f %7.1f %8.1f %7lld %5lld %7d %5d %7.1f %7.1f %7.1f %7lld %10.0f", sample.frames,
-          double(sample.process.residentBytes) / 1e6, double(sample.process.heapBytes) / 1e6,
-          sample.cacheBytes / 1e6, qlonglong(sample.process.threads.size()),
-          qlonglong(sample.process.files.size()), sample.objects, sample.items, sample.shotMs,
-          sample.mainThreadMs, sample.longestGapMs, sample.livePictures,
-          double(sample.projectFileBytes) / 1e3);
+    say("%7d %7.1f %7.1f %8.1f %7lld %5lld %7d %5d %7.1f %7.1f %7.1f %7lld %10.0f", sample.frames,
+        double(sample.process.residentBytes) / 1e6, double(sample.process.heapBytes) / 1e6,
+        sample.cacheBytes / 1e6, qlonglong(sample.process.threads.size()),
+        qlonglong(sample.process.files.size()), sample.objects, sample.items, sample.shotMs,
+        sample.mainThreadMs, sample.longestGapMs, sample.livePictures, double(sample.projectFileBytes) / 1e3);
 }
 
 } // namespace
@@ -146,7 +153,7 @@ void TestSoak::shootsAllFrames()
     printHead();
     connect(m_film.get(), &SoakFilm::sampled, this, [this] { print(m_film->samples().constLast()); });
     QCOMPARE(m_film->shoot(m_frames, qMax(1, m_frames / samplesTaken)), QString());
-    qInfo("%.2f hours have passed for the program", m_film->hours());
+    say("%.2f hours have passed for the program", m_film->hours());
     QCOMPARE(m_film->shell().framesNow(), m_frames);
     QCOMPARE(m_film->shell().sceneWarnings(), QStringList());
 }
@@ -179,7 +186,7 @@ void TestSoak::memoryGrowsWithTheRowsAlone()
     const int rows = samples.constLast().frames - samples.constFirst().frames;
     const double heapSlope = slope(samples, heap);
     const double residentSlope = slope(samples, resident);
-    qInfo("growth a row: heap %.0f bytes, resident %.0f bytes", heapSlope, residentSlope);
+    say("growth a row: heap %.0f bytes, resident %.0f bytes", heapSlope, residentSlope);
     QVERIFY(residentSlope * rows < residentBytesPerRow * rows + residentSlackBytes);
     QVERIFY(heapSlope * rows < heapBytesPerRow * rows + heapSlackBytes);
 }
@@ -193,8 +200,7 @@ void TestSoak::aShotCostsTheSameAtTheEnd()
     const double late = mean(samples, half, samples.size(), shotMs);
     const double earlyWork = mean(samples, 1, half, mainThreadMs);
     const double lateWork = mean(samples, half, samples.size(), mainThreadMs);
-    qInfo(
-        "a shot: %.1f ms in the first half, %.1f ms in the second; of it work of the main thread %.1f and "
+    say("a shot: %.1f ms in the first half, %.1f ms in the second; of it work of the main thread %.1f and "
         "%.1f ms",
         early, late, earlyWork, lateWork);
     // With other work on the machine only that of this program's main thread can be compared.
