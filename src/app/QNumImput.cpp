@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int pageSteps = 10;
+constexpr int stepsOfPageKeys = 10;
 constexpr int mostDecimals = 9;
 
 /// A point or a comma may stand before the decimals, and blanks between the digits.
@@ -103,9 +103,9 @@ void QNumImput::keyPressEvent(QKeyEvent *event)
         case Qt::Key_Down:
             return stepBy(-1);
         case Qt::Key_PageUp:
-            return stepBy(pageSteps);
+            return stepBy(stepsOfPageKeys);
         case Qt::Key_PageDown:
-            return stepBy(-pageSteps);
+            return stepBy(-stepsOfPageKeys);
         default:
             event->ignore();
     }
