@@ -63,11 +63,12 @@ function(morvane_module name)
     install(TARGETS morvane_${name}_module LIBRARY DESTINATION ${MORVANE_MODULE_FOLDER})
 endfunction()
 
-# What users of one set of precompiled headers must have in common. Where a test lies is nothing that one asks for.
+# What the makers and the users of precompiled headers must have in common: the kind of code that libraries and programs
+# are by themselves is not, and where a test lies nobody asks for.
 add_library(morvane_test_headers INTERFACE)
 target_include_directories(morvane_test_headers INTERFACE ${PROJECT_SOURCE_DIR}/tests)
 target_compile_options(morvane_test_headers INTERFACE
-    -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+    -fPIC -UQT_TESTCASE_BUILDDIR -UQT_TESTCASE_SOURCEDIR $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 target_link_libraries(morvane_test_headers INTERFACE Qt6::Test)
 
 # Reading the headers is most of the work of compiling a test. Two libraries have read them for all: one for tests that
