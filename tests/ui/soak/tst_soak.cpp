@@ -162,14 +162,16 @@ void TestSoak::handlesThreadsAndObjectsStayAsTheyAre()
 {
     const QList<Sample> samples = settled();
     const Sample &first = samples.constFirst();
-    // The threads that wait for work of any kind come as they are needed, up to their number.
+    // The threads that wait for work of any kind come as they are needed, up to their number, and so do those
+    // in which the graphics driver writes its shaders to the disk.
     const auto ownThreads = [](const Sample &sample) {
         QStringList names = sample.process.threads;
         names.removeAll(pooledThread);
-        return names;
+        names.removeIf([](const QString &name) { return name.contains(u":disk$"); });
+        return names.join(u", "_s);
     };
     for (const Sample &sample : samples) {
-        QCOMPARE(sample.process.files, first.process.files);
+        QCOMPARE(sample.process.files.join(u", "_s), first.process.files.join(u", "_s));
         QCOMPARE(ownThreads(sample), ownThreads(first));
         QVERIFY(sample.process.threads.count(pooledThread) <= QThread::idealThreadCount() + 1);
         QCOMPARE(sample.objects, first.objects);
