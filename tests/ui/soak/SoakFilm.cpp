@@ -5,6 +5,7 @@
 #include <ctime>
 #include <QFileInfo>
 #include <QTest>
+#include <QTimeZone>
 
 namespace {
 
@@ -80,7 +81,7 @@ ShellWindow::Options SoakFilm::options()
 
 QDateTime SoakFilm::now() const
 {
-    return QDateTime(QDate(2026, 3, 14), QTime(9, 0), Qt::UTC).addMSecs(m_clock->nowMs());
+    return QDateTime(QDate(2026, 3, 14), QTime(9, 0), QTimeZone::utc()).addMSecs(m_clock->nowMs());
 }
 
 QString SoakFilm::timeStamp() const
