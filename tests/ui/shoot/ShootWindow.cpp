@@ -172,6 +172,8 @@ void ShootWindow::bringIntoSight(QQuickItem *item)
             QVERIFY(nextFrame());
         }
         QVERIFY2(hidden() == 0, "the wheel does not bring the control into sight");
+        // A press on a panel that still moves only stops it.
+        SHOOT_WAIT(!above->property("moving").toBool());
     }
 }
 
