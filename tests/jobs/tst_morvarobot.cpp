@@ -1,9 +1,8 @@
 #include "FakeEncoder.h"
+#include "RobotRun.h"
 #include "SmallFilm.h"
 
 #include "jobs/MorvaRobot.h"
-#include "jobs/QVideoEncoder.h"
-#include "support/FullDisk.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -11,7 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// One render at a time, on the test's own thread.
+/// The job of a render, with an encoder that only notes what it is asked.
 class TestMorvaRobot : public QObject
 {
     Q_OBJECT
@@ -44,41 +43,15 @@ private slots:
     void rangeOfOneFrame();
     void rangeThatIsNoRange_data();
     void rangeThatIsNoRange();
-    void stopAtAnyFrame_data();
-    void stopAtAnyFrame();
     void stopBeforeTheJobCounts();
     void stopAtTheEndSaysEncodeAudio();
     void namelessProjectGetsTheTime();
     void fileNameCannotLeaveTheFolder();
-    void pipelineGivesTheSameMovie_data();
-    void pipelineGivesTheSameMovie();
-    void realMovieOfEveryFormat_data();
-    void realMovieOfEveryFormat();
-    void marginsAreTransparentInFormatsWithAlpha();
     void effectIsAdaptedToItsFilter();
-    void effectThatIsMissingLeavesNoFile();
-    void encoderThatCannotBeLoadedIsToldAsOneThatFails();
-    void fullDiskIsToldAndTheEarlierMovieStays();
     void jobsOfOtherKindsSayThatTheyAreNotThere();
 
 private:
-    struct Run
-    {
-        bool finished = false;
-        int written = 0;
-        QStringList errors;
-        QStringList advice;
-        QStringList actions;
-        QList<int> totals;
-        QList<int> progress;
-        QString result;
-        int completed = 0;
-        int done = 0;
-    };
     RobotTools fakeTools();
-    static RobotTools realTools(int lookAhead = 2);
-    Run render(const RenderInput &input, const RobotTools &tools, int stopAfter = -1,
-               const QString &projectName = "project");
 
     EncoderRecord record;
 };
@@ -98,52 +71,11 @@ RobotTools TestMorvaRobot::fakeTools()
     return tools;
 }
 
-RobotTools TestMorvaRobot::realTools(int lookAhead)
-{
-    RobotTools tools;
-    tools.makeEncoder = [](const QString &) {
-        return std::make_unique<QVideoEncoder>();
-    };
-    tools.lookAhead = lookAhead;
-    return tools;
-}
-
-TestMorvaRobot::Run TestMorvaRobot::render(const RenderInput &input, const RobotTools &tools, int stopAfter,
-                                           const QString &projectName)
-{
-    MorvaRobot robot(Zum::RenderVideo, Zum::NoTarget, input.videoFolder + "../", projectName, tools);
-    Run run;
-    connect(&robot, &MorvaRobot::errorStringChanged, this, [&run](const QString &text, int level) {
-        run.errors.append(level == Zum::Error ? text : QStringLiteral("%1 %2").arg(level).arg(text));
-    });
-    connect(&robot, &MorvaRobot::advised, this, [&run](const QString &text) { run.advice.append(text); });
-    connect(&robot, &MorvaRobot::progressActionChanged, this,
-            [&run](const QString &action) { run.actions.append(action); });
-    connect(&robot, &MorvaRobot::progressTotalChanged, this, [&run](int total) { run.totals.append(total); });
-    connect(&robot, &MorvaRobot::progressCurrentChanged, this, [&](int current) {
-        run.progress.append(current);
-        if (run.progress.size() == stopAfter)
-            robot.stop();
-    });
-    connect(&robot, &MorvaRobot::complete, this, [&run](const QString &result, const QStringList &) {
-        run.result = result;
-        ++run.completed;
-    });
-    connect(&robot, &MorvaRobot::done, this, [&run] { ++run.done; });
-    robot.setRenderInput(input);
-    if (stopAfter == 0)
-        robot.stop();
-    robot.renderVideo(nullptr, nullptr);
-    run.finished = robot.finished();
-    run.written = robot.writtenCount();
-    return run;
-}
-
 void TestMorvaRobot::allFramesAreWrittenInOrder()
 {
     const QList<int> marks{0, 1, 1, 2, 3, 4, 5, 6, 6, 6};
     const SmallFilm film(marks);
-    const Run run = render(film.input, fakeTools());
+    const RobotRun run = RobotRun::render(film.input, fakeTools());
     QList<int> found;
     for (const QImage &picture : record.pictures)
         found.append(markOf(picture));
@@ -161,7 +93,7 @@ void TestMorvaRobot::encoderIsAskedForTheMovie()
     film.input.fps = 12.5;
     film.input.rangeStart = 1;
     film.input.frames.removeFirst();
-    render(film.input, fakeTools());
+    RobotRun::render(film.input, fakeTools());
     QCOMPARE(record.createArguments, (QVariantList{film.folder.filePath("video/film"), 320, 280, 3, 12.5,
                                                    "avi", false, "", 2, false}));
     QCOMPARE(record.pictures.size(), 3);
@@ -170,7 +102,7 @@ void TestMorvaRobot::encoderIsAskedForTheMovie()
 void TestMorvaRobot::jobOpensWithTotalAndAction()
 {
     const SmallFilm film({0, 1, 2, -1});
-    const Run run = render(film.input, fakeTools());
+    const RobotRun run = RobotRun::render(film.input, fakeTools());
     QCOMPARE(run.totals, (QList<int>{4, 0}));
     QCOMPARE(run.actions, (QStringList{"Encoding [ film ]", ""}));
 }
@@ -178,7 +110,7 @@ void TestMorvaRobot::jobOpensWithTotalAndAction()
 void TestMorvaRobot::jobClosesWithItsResult()
 {
     record.path = "/a/movie.avi";
-    const Run run = render(SmallFilm({0}).input, fakeTools());
+    const RobotRun run = RobotRun::render(SmallFilm({0}).input, fakeTools());
     QCOMPARE(run.result, "/a/movie.avi");
     QCOMPARE(run.completed, 1);
     QCOMPARE(run.done, 1);
@@ -189,7 +121,7 @@ void TestMorvaRobot::hiddenAndEmptyFramesVanish()
 {
     SmallFilm film({0, -1, 2, 3, 4});
     film.input.frames[2].hidden = true;
-    const Run run = render(film.input, fakeTools());
+    const RobotRun run = RobotRun::render(film.input, fakeTools());
     QCOMPARE(record.pictures.size(), 3);
     QCOMPARE(markOf(record.pictures.at(1)), 3);
     QCOMPARE(run.progress, (QList<int>{1, 2, 3}));
@@ -202,7 +134,7 @@ void TestMorvaRobot::onlyHiddenFramesEndAsFinished()
     SmallFilm film({0, 1});
     for (RenderFrame &frame : film.input.frames)
         frame.hidden = true;
-    const Run run = render(film.input, fakeTools());
+    const RobotRun run = RobotRun::render(film.input, fakeTools());
     QVERIFY(run.finished);
     QCOMPARE(run.written, 0);
     QCOMPARE(run.errors, QStringList());
@@ -215,7 +147,7 @@ void TestMorvaRobot::pictureThatCannotBeLoadedIsSkipped()
 {
     const SmallFilm film({0, 1, 2});
     QFile::remove(film.picturePath(1));
-    const Run run = render(film.input, fakeTools());
+    const RobotRun run = RobotRun::render(film.input, fakeTools());
     QCOMPARE(run.errors, QStringList("Cannot load " + film.picturePath(1) + ". Skipping image"));
     QCOMPARE(run.advice,
              QStringList("Put the picture back into the project's folder, or capture the frame again "
@@ -248,12 +180,12 @@ void TestMorvaRobot::timecodeCountsSkippedPictures()
 {
     SmallFilm film({4, 4, 4});
     film.input.timecode = true;
-    const Run whole = render(film.input, fakeTools());
+    const RobotRun whole = RobotRun::render(film.input, fakeTools());
     const QImage third = record.pictures.at(2);
     QVERIFY(third != record.pictures.at(1));
     record.pictures.clear();
     QFile::remove(film.picturePath(1));
-    render(film.input, fakeTools());
+    RobotRun::render(film.input, fakeTools());
     QCOMPARE(record.pictures.at(1), third);
     QCOMPARE(whole.errors, QStringList());
 }
@@ -262,7 +194,7 @@ void TestMorvaRobot::marginsAreReported()
 {
     const SmallFilm film({0, 1});
     markedPicture({300, 280}, 1).save(film.picturePath(1));
-    const Run run = render(film.input, fakeTools());
+    const RobotRun run = RobotRun::render(film.input, fakeTools());
     QCOMPARE(run.errors, QStringList("Image #1: Margins added (top: 0px, left: 10px)"));
     QVERIFY(run.finished);
 }
@@ -271,7 +203,7 @@ void TestMorvaRobot::cropTooSmall()
 {
     SmallFilm film({0});
     film.input.cropSize = QSize(319, 280);
-    const Run run = render(film.input, fakeTools());
+    const RobotRun run = RobotRun::render(film.input, fakeTools());
     QCOMPARE(run.errors, (QStringList{"Frame size: 319x280", "Minimum frame size is 320x280"}));
     QCOMPARE(run.advice, QStringList("Set a larger frame width and height in the Project panel"));
     QVERIFY(record.createArguments.isEmpty());
@@ -284,14 +216,14 @@ void TestMorvaRobot::rateTooLow()
 {
     SmallFilm film({0});
     film.input.fps = 0;
-    QCOMPARE(render(film.input, fakeTools()).errors, QStringList("FPS is too low"));
+    QCOMPARE(RobotRun::render(film.input, fakeTools()).errors, QStringList("FPS is too low"));
 }
 
 void TestMorvaRobot::bitrateTooLow()
 {
     SmallFilm film({0});
     film.input.bitrate = 999;
-    QCOMPARE(render(film.input, fakeTools()).errors, QStringList("Bitrate is too low"));
+    QCOMPARE(RobotRun::render(film.input, fakeTools()).errors, QStringList("Bitrate is too low"));
 }
 
 void TestMorvaRobot::allChecksReport()
@@ -300,7 +232,7 @@ void TestMorvaRobot::allChecksReport()
     film.input.cropSize = QSize(320, 279);
     film.input.fps = -1;
     film.input.bitrate = 0;
-    const Run run = render(film.input, fakeTools());
+    const RobotRun run = RobotRun::render(film.input, fakeTools());
     QCOMPARE(run.errors, (QStringList{"Frame size: 320x279", "Minimum frame size is 320x280",
                                       "FPS is too low", "Bitrate is too low"}));
     QCOMPARE(run.advice,
@@ -319,7 +251,7 @@ void TestMorvaRobot::noEncoder()
     tools.makeEncoder = [](const QString &) {
         return nullptr;
     };
-    const Run run = render(SmallFilm({0}).input, tools);
+    const RobotRun run = RobotRun::render(SmallFilm({0}).input, tools);
     QCOMPARE(run.errors, QStringList("No Encoder"));
     QCOMPARE(run.advice, QStringList("Choose another format"));
     QCOMPARE(run.completed, 1);
@@ -329,7 +261,7 @@ void TestMorvaRobot::encoderThatIsNotReady()
 {
     record.isOk = false;
     record.answer = {{"ok", false}, {"reason", "No room"}};
-    const Run run = render(SmallFilm({0}).input, fakeTools());
+    const RobotRun run = RobotRun::render(SmallFilm({0}).input, fakeTools());
     QCOMPARE(run.errors, (QStringList{"Error initializing", "Encoder error: No room"}));
     QCOMPARE(run.advice,
              QStringList("Choose another format or quality, or switch the video effects off, and render "
@@ -340,10 +272,10 @@ void TestMorvaRobot::encoderThatIsNotReady()
 void TestMorvaRobot::encoderWithoutAnswer()
 {
     record.answer = {};
-    QCOMPARE(render(SmallFilm({0}).input, fakeTools()).errors,
+    QCOMPARE(RobotRun::render(SmallFilm({0}).input, fakeTools()).errors,
              QStringList("Got an error from encoder, but with no reason"));
     record.answer = {{"ok", false}, {"reason", 5}};
-    QCOMPARE(render(SmallFilm({0}).input, fakeTools()).errors,
+    QCOMPARE(RobotRun::render(SmallFilm({0}).input, fakeTools()).errors,
              QStringList("Got an error from encoder, but with no reason"));
     QVERIFY(record.pictures.isEmpty());
 }
@@ -353,7 +285,7 @@ void TestMorvaRobot::folderThatCannotBeMade()
     SmallFilm film({0});
     QFile file(film.folder.filePath("video"));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    const Run run = render(film.input, fakeTools());
+    const RobotRun run = RobotRun::render(film.input, fakeTools());
     QCOMPARE(run.errors, QStringList("Cannot cteate dir " + film.input.videoFolder));
     QVERIFY(record.createArguments.isEmpty());
 }
@@ -361,7 +293,7 @@ void TestMorvaRobot::folderThatCannotBeMade()
 void TestMorvaRobot::encoderThatRefusesAPictureEndsTheJob()
 {
     record.refusedPicture = 2;
-    const Run run = render(SmallFilm({0, 1, 2, 3, 4}).input, fakeTools());
+    const RobotRun run = RobotRun::render(SmallFilm({0, 1, 2, 3, 4}).input, fakeTools());
     QCOMPARE(run.errors, (QStringList{"Error creating video", "Processing image. Robot interrupted"}));
     QVERIFY(!run.finished);
     QVERIFY(record.interrupted);
@@ -371,7 +303,7 @@ void TestMorvaRobot::encoderThatRefusesAPictureEndsTheJob()
 void TestMorvaRobot::writeErrorAtTheEndIsReported()
 {
     record.writeError = "No space left";
-    const Run run = render(SmallFilm({0}).input, fakeTools());
+    const RobotRun run = RobotRun::render(SmallFilm({0}).input, fakeTools());
     QCOMPARE(run.errors, QStringList("Error creating video: No space left"));
     QCOMPARE(run.advice,
              QStringList("Check that the disk is not full and that the project's folder can be written, "
@@ -395,7 +327,7 @@ void TestMorvaRobot::encoderFeedbackDropsWarnings()
         };
         return std::make_unique<Talking>(record);
     };
-    QCOMPARE(render(SmallFilm({0}).input, tools).errors, (QStringList{"0 told", "told", "3 told"}));
+    QCOMPARE(RobotRun::render(SmallFilm({0}).input, tools).errors, (QStringList{"0 told", "told", "3 told"}));
 }
 
 void TestMorvaRobot::policyThreeTakesTheExportSize()
@@ -403,7 +335,7 @@ void TestMorvaRobot::policyThreeTakesTheExportSize()
     SmallFilm film({0});
     film.input.policy = Zum::ExportPolicyCroppedAndResized;
     film.input.exportSize = QSize(640, 560);
-    render(film.input, fakeTools());
+    RobotRun::render(film.input, fakeTools());
     QCOMPARE(record.createArguments.at(1).toInt(), 640);
     QCOMPARE(record.createArguments.at(2).toInt(), 560);
     QCOMPARE(record.pictures.first().size(), QSize(640, 560));
@@ -413,16 +345,16 @@ void TestMorvaRobot::webpSettingsReachTheEncoder()
 {
     SmallFilm film({0});
     film.input.webpSettings = {{"quality", 30}};
-    render(film.input, fakeTools());
+    RobotRun::render(film.input, fakeTools());
     QCOMPARE(record.webpSettings, QVariantMap());
     film.input.formatName = "webp";
-    render(film.input, fakeTools());
+    RobotRun::render(film.input, fakeTools());
     QCOMPARE(record.webpSettings, film.input.webpSettings);
 }
 
 void TestMorvaRobot::rangeOfOneFrame()
 {
-    const Run run = render(SmallFilm({3}).input, fakeTools());
+    const RobotRun run = RobotRun::render(SmallFilm({3}).input, fakeTools());
     QCOMPARE(run.totals.first(), 1);
     QCOMPARE(record.pictures.size(), 1);
     QCOMPARE(record.createArguments.at(8).toInt(), 0);
@@ -448,43 +380,17 @@ void TestMorvaRobot::rangeThatIsNoRange()
     film.input.rangeStart = start;
     film.input.rangeEnd = end;
     film.input.frames.clear();
-    const Run run = render(film.input, fakeTools());
+    const RobotRun run = RobotRun::render(film.input, fakeTools());
     QCOMPARE(run.totals.first(), total);
     QVERIFY(record.pictures.isEmpty());
     QVERIFY(!run.finished);
     QCOMPARE(run.completed, 1);
 }
 
-void TestMorvaRobot::stopAtAnyFrame_data()
-{
-    QTest::addColumn<int>("stopAfter");
-    QTest::addColumn<bool>("interrupted");
-    QTest::newRow("first") << 1 << true;
-    QTest::newRow("middle") << 4 << true;
-    QTest::newRow("last but one") << 7 << false;
-    QTest::newRow("last") << 8 << false;
-}
-
-void TestMorvaRobot::stopAtAnyFrame()
-{
-    QFETCH(int, stopAfter);
-    QFETCH(bool, interrupted);
-    const SmallFilm film({0, 1, 2, 3, 4, 5, 6, 0});
-    const Run run = render(film.input, realTools(), stopAfter);
-    QCOMPARE(run.errors, interrupted ? QStringList("Processing image. Robot interrupted") : QStringList());
-    QCOMPARE(run.written, stopAfter);
-    QCOMPARE(run.finished, stopAfter == 8);
-    QCOMPARE(run.result, film.folder.filePath("video/film.avi"));
-    const MovieProbe probe(run.result);
-    QCOMPARE(probe.frames().size(), stopAfter);
-    QCOMPARE(markOf(probe.frames().last()), (stopAfter - 1) % 7);
-    QCOMPARE(film.movies(), QStringList("film.avi"));
-}
-
 void TestMorvaRobot::stopBeforeTheJobCounts()
 {
     QTest::ignoreMessage(QtDebugMsg, "Stopping MorvaRobot: No job. Goto finalState");
-    const Run run = render(SmallFilm({0, 1, 2}).input, fakeTools(), 0);
+    const RobotRun run = RobotRun::render(SmallFilm({0, 1, 2}).input, fakeTools(), 0);
     QCOMPARE(run.written, 0);
     QCOMPARE(run.errors, QStringList("Processing image. Robot interrupted"));
     QCOMPARE(run.completed, 1);
@@ -493,13 +399,13 @@ void TestMorvaRobot::stopBeforeTheJobCounts()
 void TestMorvaRobot::stopAtTheEndSaysEncodeAudio()
 {
     QTest::ignoreMessage(QtDebugMsg, "Stopping MorvaRobot: Job is on the go, let's set Stop=true");
-    const Run run = render(SmallFilm({0, 1, 2}).input, fakeTools(), 2);
+    const RobotRun run = RobotRun::render(SmallFilm({0, 1, 2}).input, fakeTools(), 2);
     QCOMPARE(run.actions, (QStringList{"Encoding [ film ]", "Encode audio", ""}));
 }
 
 void TestMorvaRobot::namelessProjectGetsTheTime()
 {
-    render(SmallFilm({0}).input, fakeTools(), -1, QString());
+    RobotRun::render(SmallFilm({0}).input, fakeTools(), -1, QString());
     const QString name = QFileInfo(record.createArguments.first().toString()).fileName();
     QVERIFY2(QRegularExpression("^movie_\\d{12}$").match(name).hasMatch(), qPrintable(name));
 }
@@ -509,66 +415,9 @@ void TestMorvaRobot::fileNameCannotLeaveTheFolder()
     SmallFilm film({0});
     for (const QString name : {"../film", "/tmp/film", "..", ""}) {
         film.input.fileName = name;
-        render(film.input, fakeTools());
+        RobotRun::render(film.input, fakeTools());
         QCOMPARE(record.createArguments.first().toString(), film.folder.filePath("video/project"));
     }
-}
-
-void TestMorvaRobot::pipelineGivesTheSameMovie_data()
-{
-    QTest::addColumn<QString>("format");
-    for (const char *format : {"avi", "webm", "raw"})
-        QTest::newRow(format) << QString(format);
-}
-
-void TestMorvaRobot::pipelineGivesTheSameMovie()
-{
-    QFETCH(QString, format);
-    SmallFilm film({0, 1, 2, -1, 3, 3, 3, 4, 5, 6, 0, 1});
-    film.input.formatName = format;
-    film.input.timecode = true;
-    QList<QList<QImage>> movies;
-    for (const int lookAhead : {1, 2, 7}) {
-        const Run run = render(film.input, realTools(lookAhead));
-        QVERIFY(run.finished);
-        movies.append(MovieProbe(run.result).frames());
-    }
-    QCOMPARE(movies.first().size(), 11);
-    QVERIFY(movies.at(1) == movies.first());
-    QVERIFY(movies.at(2) == movies.first());
-}
-
-void TestMorvaRobot::realMovieOfEveryFormat_data()
-{
-    QTest::addColumn<QString>("format");
-    for (const char *format : {"avi", "mjpg", "webm", "ogv", "mkv", "apng", "raw"})
-        QTest::newRow(format) << QString(format);
-}
-
-void TestMorvaRobot::realMovieOfEveryFormat()
-{
-    QFETCH(QString, format);
-    SmallFilm film({0, 1, 2, 2, 2, 3, 3, 3, 3});
-    film.input.formatName = format;
-    const Run run = render(film.input, realTools());
-    QCOMPARE(run.errors, QStringList());
-    QVERIFY(run.finished);
-    QList<int> found;
-    for (const QImage &frame : MovieProbe(run.result).frames())
-        found.append(markOf(frame));
-    QCOMPARE(found, (QList<int>{0, 1, 2, 2, 2, 3, 3, 3, 3}));
-}
-
-void TestMorvaRobot::marginsAreTransparentInFormatsWithAlpha()
-{
-    SmallFilm film({0, 1});
-    film.input.formatName = "mkv";
-    for (int row = 0; row < 2; ++row)
-        markedPicture({160, 280}, row).save(film.picturePath(row));
-    const QList<QImage> frames = MovieProbe(render(film.input, realTools()).result, "libvpx").frames();
-    QCOMPARE(frames.size(), 2);
-    QVERIFY(qAlpha(frames.last().pixel(20, 140)) < 8);
-    QVERIFY(qAlpha(frames.last().pixel(160, 140)) > 247);
 }
 
 void TestMorvaRobot::effectIsAdaptedToItsFilter()
@@ -576,57 +425,9 @@ void TestMorvaRobot::effectIsAdaptedToItsFilter()
     SmallFilm film({0});
     film.input.applyEffects = true;
     film.input.effect = "cas=strength=100";
-    render(film.input, fakeTools());
+    RobotRun::render(film.input, fakeTools());
     QCOMPARE(record.createArguments.at(6).toBool(), true);
     QCOMPARE(record.createArguments.at(7).toString(), "cas=strength=0.9");
-}
-
-void TestMorvaRobot::effectThatIsMissingLeavesNoFile()
-{
-    SmallFilm film({0});
-    film.input.applyEffects = true;
-    film.input.effect = "paintlikerembrandt=strength=1";
-    const Run run = render(film.input, realTools());
-    QCOMPARE(run.errors,
-             (QStringList{"Error initializing", "Encoder error: Cannot apply post-process effects"}));
-    QCOMPARE(run.result, QString());
-    QCOMPARE(film.movies(), QStringList());
-}
-
-void TestMorvaRobot::encoderThatCannotBeLoadedIsToldAsOneThatFails()
-{
-    const SmallFilm film({0, 1});
-    const QTemporaryDir empty;
-    const Run run = render(film.input, RobotTools::standard(empty.path()));
-    QCOMPARE(run.errors.size(), 2);
-    QCOMPARE(run.errors.first(), "Error initializing");
-    QVERIFY2(run.errors.last().startsWith("Encoder error: The part of the program that makes movies is "
-                                          "missing or damaged. Install the program again. "),
-             qPrintable(run.errors.last()));
-    QVERIFY2(run.errors.last().contains(empty.path()), qPrintable(run.errors.last()));
-    QVERIFY(!run.finished && run.result.isEmpty());
-    QCOMPARE(run.done, 1);
-    QCOMPARE(render(film.input, RobotTools::standard()).errors, QStringList());
-}
-
-void TestMorvaRobot::fullDiskIsToldAndTheEarlierMovieStays()
-{
-#ifdef Q_OS_UNIX
-    SmallFilm film({0, 1, 2, 3, 4, 5, 6});
-    film.input.formatName = "raw";
-    const QString earlier = render(film.input, realTools()).result;
-    const qint64 size = QFileInfo(earlier).size();
-    const Run run = [&] {
-        const FullDisk disk(1000000);
-        return render(film.input, realTools());
-    }();
-    QVERIFY(!run.finished);
-    QVERIFY(run.errors.contains("Error creating video"));
-    QVERIFY2(run.errors.last().contains("File too large"), qPrintable(run.errors.join('\n')));
-    QVERIFY(run.result != earlier);
-    QVERIFY(!MovieProbe(run.result).frames().isEmpty());
-    QCOMPARE(QFileInfo(earlier).size(), size);
-#endif
 }
 
 void TestMorvaRobot::jobsOfOtherKindsSayThatTheyAreNotThere()

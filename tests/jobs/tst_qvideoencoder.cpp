@@ -1,6 +1,7 @@
 #include "MadeMovie.h"
 
 #include "shared/Names.h"
+#include "support/LogLines.h"
 
 #include <QDate>
 #include <QFile>
@@ -42,6 +43,7 @@ private slots:
     void nothingIsTakenBeforeAFileIsOpen();
     void qualityChangesTheFile();
     void webpSettingsAreReadByCreateFile();
+    void emptiedEncodersAreLogged();
 
 private:
     QString base() const
@@ -421,6 +423,17 @@ void TestQVideoEncoder::webpSettingsAreReadByCreateFile()
         encoder.createFile(base(), 64, 48, 2, 25, morvane::formatWebp, false, {}, 2, false)["ok"].toBool());
     encoder.encodeImage(markedPicture(smallSize, 0));
     QCOMPARE(encoder.closeFile(), folder->filePath("film.webp"));
+}
+
+void TestQVideoEncoder::emptiedEncodersAreLogged()
+{
+    const QString line = "The encoder has been fully flushed, and there will be no more output packets";
+    const LogLines log;
+    QVERIFY(make("mkv", QList<int>(26, 0)).ok());
+    const int withoutSound = log.count(line);
+    QVERIFY(make("avi", QList<int>(26, 0)).ok());
+    QCOMPARE(withoutSound, 1);
+    QCOMPARE(log.count(line), withoutSound + 2);
 }
 
 QTEST_GUILESS_MAIN(TestQVideoEncoder)
