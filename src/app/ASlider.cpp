@@ -1,11 +1,12 @@
 #include "app/ASlider.h"
 
+#include "app/PageSteps.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr int pageSteps = 10;
 constexpr qreal stepsOfUnsetStep = 100.0;
 
 /// Takes the dust of repeated additions off a value.
@@ -136,9 +137,9 @@ void ASlider::keyPressEvent(QKeyEvent *event)
         case Qt::Key_Up:
             return stepBy(1);
         case Qt::Key_PageDown:
-            return stepBy(-pageSteps);
+            return stepBy(-morvane::pageSteps);
         case Qt::Key_PageUp:
-            return stepBy(pageSteps);
+            return stepBy(morvane::pageSteps);
         case Qt::Key_Home:
             return moveTo(minimum());
         case Qt::Key_End:

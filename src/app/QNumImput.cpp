@@ -1,12 +1,13 @@
 #include "app/QNumImput.h"
 
+#include "app/PageSteps.h"
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
 
 namespace {
 
-constexpr int stepsOfPageKeys = 10;
 constexpr int mostDecimals = 9;
 
 /// A point or a comma may stand before the decimals, and blanks between the digits.
@@ -103,9 +104,9 @@ void QNumImput::keyPressEvent(QKeyEvent *event)
         case Qt::Key_Down:
             return stepBy(-1);
         case Qt::Key_PageUp:
-            return stepBy(stepsOfPageKeys);
+            return stepBy(morvane::pageSteps);
         case Qt::Key_PageDown:
-            return stepBy(-stepsOfPageKeys);
+            return stepBy(-morvane::pageSteps);
         default:
             event->ignore();
     }
