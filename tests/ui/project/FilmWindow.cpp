@@ -118,8 +118,11 @@ void FilmWindow::shoot(const QString &project, int first, int count)
         frames().appendFrame(
             {{u"capFull"_s, pictureName(number)}, {u"capTumb"_s, pictureName(number, u"mini"_s)}}, true);
     }
+    QVERIFY(waitIdle());
     // Half a second after a shot the last frame becomes the current one once more.
-    QVERIFY(QTest::qWaitFor([pause = m_shell->timer(500)] { return !pause->property("running").toBool(); }));
+    const QObject *pause = m_shell->timer(500);
+    QVERIFY(pause != nullptr);
+    QVERIFY(QTest::qWaitFor([pause] { return !pause->property("running").toBool(); }));
     m_shell->controllers().lifecycle.finishSaves();
 }
 
@@ -201,9 +204,6 @@ void FilmWindow::clickItem(const char *property, const QString &value)
     QQuickItem *item = m_shell->findItem(property, value);
     QVERIFY2(item != nullptr, qPrintable(value));
     shownItems::bringIntoSight(item);
-    // What begins while the click is on its way would refuse it.
-    QVERIFY(m_shell->settle());
-    QVERIFY(waitIdle());
     m_shell->click(item);
 }
 

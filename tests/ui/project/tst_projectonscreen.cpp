@@ -30,6 +30,7 @@ private slots:
     void presetSetsFrameSizeAndRate();
     void sizeRateAndTitleAreTyped();
     void savedProjectComesBackFromTheRecentList();
+    void nextProjectBeginsWithAPathOfItsOwn();
     void saveAsCopiesThePicturesAndLeavesTheOldProject();
     void importAddsFramesWithCopiesOfTheirPictures();
     void importOfTheOpenProjectIsRefused();
@@ -352,6 +353,26 @@ void TestProjectOnScreen::savedProjectComesBackFromTheRecentList()
     d->press(Qt::Key_V, Qt::ControlModifier);
     QVERIFY(d->waitIdle());
     QCOMPARE(d->rows(), edited + QStringList{"4"});
+}
+
+void TestProjectOnScreen::nextProjectBeginsWithAPathOfItsOwn()
+{
+    makeFilm(1);
+    Curves &path = d->shell().controllers().curves;
+    path.newPoint(MPathPoint::Move, 10, 10);
+    path.newPoint(MPathPoint::Line, 20, 20);
+    path.setSmoothValue(90);
+    path.setLocked(true);
+    d->press(Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(d->create("other"));
+    QCOMPARE(path.count(), 0);
+    QCOMPARE(path.smoothValue(), 300);
+    QVERIFY(!path.locked());
+    path.undo();
+    QCOMPARE(path.count(), 0);
+    QVERIFY(d->open("film"));
+    QCOMPARE(path.count(), 2);
+    QCOMPARE(path.smoothValue(), 90);
 }
 
 void TestProjectOnScreen::saveAsCopiesThePicturesAndLeavesTheOldProject()
