@@ -1,11 +1,11 @@
 import QtQuick
+import "LastProjectsDialogWorker.js" as Worker
 
 // The projects opened last, to be opened again.
 DialogBox {
     id: dialog
 
     readonly property int lastProjectsLimit: 8
-    property bool filled: false
 
     function entryOf(project) {
         return {
@@ -34,27 +34,15 @@ DialogBox {
 
     heading: qsTr("Recent Projects")
     Component.onCompleted: {
-        const stored = Object.values(MainWindow.getGroupSetting(LastProjectsKey));
-        worker.sendMessage({
-            model: projects,
-            limit: lastProjectsLimit,
-            entries: stored.filter(project => project && project.name).map(entryOf)
-        });
+        const entries = Object.values(MainWindow.getGroupSetting(LastProjectsKey))
+            .filter(project => project && project.name).map(entryOf);
+        // Here and not in a WorkerScript: closed before that has answered, the dialog would take the program with it.
+        Worker.fill(projects, entries, lastProjectsLimit).forEach(forget);
+        Qt.callLater(list.takeFocus);
     }
 
     ListModel {
         id: projects
-    }
-
-    WorkerScript {
-        id: worker
-
-        source: "LastProjectsDialogWorker.js"
-        onMessage: message => {
-            dialog.filled = true;
-            message.forgotten.forEach(dialog.forget);
-            list.takeFocus();
-        }
     }
 
     FocusScope {
@@ -108,7 +96,7 @@ DialogBox {
 
     EmptyState {
         width: parent.width
-        visible: dialog.filled && projects.count === 0
+        visible: projects.count === 0
         icon: "svgicons/recent.svg"
         title: qsTr("No recent projects")
         text: qsTr("Projects that you create or open are listed here.")

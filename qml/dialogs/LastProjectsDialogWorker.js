@@ -1,8 +1,9 @@
-// Fills the list of recent projects, the newest first. Those beyond the limit are sent back to be forgotten.
-WorkerScript.onMessage = function (message) {
-    const entries = message.entries.slice().sort((a, b) => b.sortkey - a.sortkey);
-    message.model.clear();
-    entries.slice(0, message.limit).forEach(entry => message.model.append(entry));
-    message.model.sync();
-    WorkerScript.sendMessage({ forgotten: entries.slice(message.limit).map(entry => entry.name) });
-};
+.pragma library
+
+// Fills the list of recent projects, the newest first. Returns the names of those beyond the limit, to be forgotten.
+function fill(model, entries, limit) {
+    const sorted = entries.slice().sort((a, b) => b.sortkey - a.sortkey);
+    model.clear();
+    sorted.slice(0, limit).forEach(entry => model.append(entry));
+    return sorted.slice(limit).map(entry => entry.name);
+}
