@@ -98,9 +98,11 @@ Rectangle {
             width: parent.width
             visible: controlsPanesBox.captures
 
-            CaptureButton {
+            Loader {
                 width: parent.width
-                visible: controlsPanesBox.pinsButton
+                active: MainWindow.projectLoaded && controlsPanesBox.pinsButton
+                visible: active
+                sourceComponent: CaptureButton {}
             }
         }
 

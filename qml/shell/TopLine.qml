@@ -79,9 +79,12 @@ Rectangle {
         y: y0
         spacing: 2
 
-        MessagesBox {
-            visible: topLine.rules.toggleRowShown && topLine.messagesModel.count > 0
-            model: topLine.messagesModel
+        LastingLoader {
+            wanted: topLine.messagesModel.count > 0
+            visible: topLine.rules.toggleRowShown && wanted
+            sourceComponent: MessagesBox {
+                model: topLine.messagesModel
+            }
         }
 
         IconButton {

@@ -32,7 +32,11 @@ MainWindow::MainWindow(std::unique_ptr<AppControllers> controllers, const QStrin
 {
     AppControllers &c = this->controllers();
     c.attachWindow(*this);
-    setIcon(QIcon(QStringLiteral(":/icons/MorvaneCapture.ico")));
+    // Its many sizes take a while to decode, so the window is shown first.
+    connect(
+        this, &QQuickWindow::frameSwapped, this,
+        [this] { setIcon(QIcon(QStringLiteral(":/icons/MorvaneCapture.ico"))); },
+        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     engine()->addImageProvider(QStringLiteral("systemicons"), new SystemIconsProvider);
     setTitle();
     prepareWindow();

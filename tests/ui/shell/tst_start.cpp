@@ -254,7 +254,7 @@ void TestStart::windowIsNoSmallerThanItsContentNeeds()
     ShellWindow shell;
     QCOMPARE(shell.window().minimumSize(), QSize(1024, 600));
     QCOMPARE(shell.window().color(), QColor("#393939"));
-    QVERIFY(!shell.window().icon().isNull());
+    QTRY_VERIFY(!shell.window().icon().isNull());
     QCOMPARE(shell.window().resizeMode(), QQuickView::SizeRootObjectToView);
 }
 
