@@ -85,7 +85,7 @@ void TestStripControls::controlsStandInTheirOrder()
     QVERIFY(strip.settle());
     before = strip.control("About the current frame")->mapToScene({0, 0}).x();
     QQuickItem *marker = strip.control("Copied frames: 1. Click to paste them, right click to forget them");
-    QVERIFY(marker->mapToScene({0, 0}).x() > before);
+    QTRY_VERIFY(marker->mapToScene({0, 0}).x() > before);
 }
 
 void TestStripControls::addAndReplaceSayWhichOneIsMeant()
