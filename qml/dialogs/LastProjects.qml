@@ -1,5 +1,5 @@
 import QtQuick
-import "LastProjectsDialogWorker.js" as Worker
+import "LastProjectsDialogWorker.js" as Listing
 
 // The projects opened last, to be opened again.
 DialogBox {
@@ -37,7 +37,7 @@ DialogBox {
         const entries = Object.values(MainWindow.getGroupSetting(LastProjectsKey))
             .filter(project => project && project.name).map(entryOf);
         // Here and not in a WorkerScript: closed before that has answered, the dialog would take the program with it.
-        Worker.fill(projects, entries, lastProjectsLimit).forEach(forget);
+        Listing.fill(projects, entries, lastProjectsLimit).forEach(forget);
         Qt.callLater(list.takeFocus);
     }
 

@@ -2,12 +2,8 @@
 #include "RobotRun.h"
 #include "SmallFilm.h"
 
-#include "jobs/MorvaRobot.h"
-
-#include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 /// The job of a render, with an encoder that only notes what it is asked.

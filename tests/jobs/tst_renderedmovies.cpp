@@ -4,7 +4,6 @@
 #include "jobs/QVideoEncoder.h"
 #include "support/FullDisk.h"
 
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
 
