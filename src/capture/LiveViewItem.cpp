@@ -192,6 +192,12 @@ void LiveViewItem::mouseMoveEvent(QMouseEvent *event)
     lookAt(event->position());
 }
 
+// A mouse that comes in and stops moves no further.
+void LiveViewItem::hoverEnterEvent(QHoverEvent *event)
+{
+    lookAt(event->position());
+}
+
 void LiveViewItem::hoverMoveEvent(QHoverEvent *event)
 {
     lookAt(event->position());

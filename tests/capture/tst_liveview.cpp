@@ -344,12 +344,15 @@ void TestLiveView::theEyedropperReadsThePictureShown()
     show(quarters(40, 20));
     item->setEyedropperOn(true);
     QSignalSpy colours(item, &WebCamCaptureWnd::setEyedropper);
+    // The mouse comes in and stops, and nothing else calls for a frame.
+    window->grabWindow();
+    QTest::qWait(100);
     QTest::mouseMove(window.get(), {15, 25});
-    QTRY_COMPARE(colours.size(), 1);
+    QTRY_VERIFY(!colours.isEmpty());
     QCOMPARE(colours.last().at(0).toPoint(), QPoint(15, 25));
     QCOMPARE(colours.last().at(1).value<QColor>(), QColor(Qt::red));
     QTest::mouseMove(window.get(), {45, 35});
-    QTRY_COMPARE(colours.size(), 2);
+    QTRY_COMPARE(colours.last().at(0).toPoint(), QPoint(45, 35));
     QCOMPARE(colours.last().at(1).value<QColor>(), QColor(Qt::white));
 }
 
@@ -359,7 +362,6 @@ void TestLiveView::theEyedropperReadsATurnedPicture()
     send(1315);
     item->setEyedropperOn(true);
     QSignalSpy colours(item, &WebCamCaptureWnd::setEyedropper);
-    QTest::mouseMove(window.get(), {0, 0});
     QTest::mouseMove(window.get(), {1, 1});
     QTRY_VERIFY(!colours.isEmpty());
     QCOMPARE(colours.last().at(1).value<QColor>(), QColor(Qt::white));
@@ -377,7 +379,7 @@ void TestLiveView::theEyedropperIsSilentOutsideAndWhenOff()
     window->grabWindow();
     QCOMPARE(colours.size(), 0);
     QTest::mouseMove(window.get(), {6, 6});
-    QTRY_COMPARE(colours.size(), 1);
+    QTRY_VERIFY(!colours.isEmpty());
 }
 
 void TestLiveView::pressesOfBothButtons()
