@@ -1,8 +1,7 @@
 #pragma once
 
-#include <map>
+#include <QHash>
 #include <QList>
-#include <unordered_map>
 
 /// The GUIDs of the selected frames, the most recently selected first. No GUID stands in it twice.
 /// Adding, removing and asking cost the same however many frames are selected. Main thread only.
@@ -11,17 +10,18 @@ class FrameSelection
 public:
     int count() const
     {
-        return int(m_guidsByAge.size());
+        return int(m_places.size());
     }
     bool isEmpty() const
     {
-        return m_guidsByAge.empty();
+        return m_places.isEmpty();
     }
     bool contains(int guid) const
     {
-        return m_ages.contains(guid);
+        return m_places.contains(guid);
     }
-    /// The GUID at a position, 0 being the newest; -1 outside the list. Costs more the further back it is.
+    /// The GUID at a position, 0 being the newest; -1 outside the list. Where GUIDs were taken out it costs
+    /// more the further back it is.
     int at(int position) const;
     QList<int> guids() const;
 
@@ -31,8 +31,9 @@ public:
     void clear();
 
 private:
-    /// Keys fall with every selection, so that the newest stands first.
-    std::map<qint64, int> m_guidsByAge;
-    std::unordered_map<int, qint64> m_ages;
-    qint64 m_nextAge = 0;
+    void closeHoles();
+
+    /// Oldest first, with a hole where a GUID was taken out: there are never more holes than GUIDs.
+    QList<int> m_oldestFirst;
+    QHash<int, qsizetype> m_places;
 };

@@ -1,5 +1,6 @@
 #include "timeline/FrameSelection.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 class tst_FrameSelection : public QObject
@@ -11,6 +12,7 @@ private slots:
     void keepsOneEntryPerGuid();
     void answersOutsideTheList();
     void forgetsWhatIsDeselected();
+    void staysInOrderHoweverManyComeAndGo();
 };
 
 void tst_FrameSelection::listsTheNewestFirst()
@@ -53,6 +55,28 @@ void tst_FrameSelection::forgetsWhatIsDeselected()
     selection.clear();
     QVERIFY(selection.isEmpty());
     QVERIFY(!selection.contains(2));
+}
+
+void tst_FrameSelection::staysInOrderHoweverManyComeAndGo()
+{
+    FrameSelection selection;
+    QList<int> newestFirst;
+    QRandomGenerator random(7);
+    for (int i = 0; i < 2000; ++i) {
+        const int guid = random.bounded(1, 60);
+        newestFirst.removeAll(guid);
+        // Now mostly in, now mostly out.
+        if (random.bounded(10) < (i / 200 % 2 == 0 ? 8 : 2)) {
+            selection.select(guid);
+            newestFirst.prepend(guid);
+        } else {
+            selection.deselect(guid);
+        }
+        QCOMPARE(selection.guids(), newestFirst);
+        QCOMPARE(selection.count(), newestFirst.size());
+        for (int position = 0; position < newestFirst.size(); ++position)
+            QCOMPARE(selection.at(position), newestFirst.at(position));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_FrameSelection)
