@@ -2,6 +2,8 @@
 
 #include "app/TypeRegistry.h"
 
+#include <atomic>
+#include <memory>
 #include <QFile>
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -181,9 +183,27 @@ QByteArray ShellWindow::projectFileText() const
 
 bool ShellWindow::settle() const
 {
+    // The renderer may still be at a frame of before the change: only one taken over from here on counts.
+    struct Frame
+    {
+        std::atomic_bool taken = false;
+        std::atomic_bool shown = false;
+    };
+    const auto frame = std::make_shared<Frame>();
+    const QObject renderer;
+    QObject::connect(
+        m_window.get(), &QQuickWindow::afterSynchronizing, &renderer, [frame] { frame->taken = true; },
+        Qt::DirectConnection);
+    QObject::connect(
+        m_window.get(), &QQuickWindow::frameSwapped, &renderer,
+        [frame] { frame->shown = frame->taken.load(); }, Qt::DirectConnection);
     QSignalSpy frames(m_window.get(), &QQuickWindow::frameSwapped);
     m_window->update();
-    return frames.wait(2000);
+    while (!frame->shown) {
+        if (!frames.wait(10000))
+            return frame->shown;
+    }
+    return true;
 }
 
 void ShellWindow::click(QQuickItem *item, Qt::MouseButton button)

@@ -7,7 +7,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLocale>
-#include <QSignalSpy>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -129,18 +128,11 @@ QQuickItem *ShootWindow::frame(int row) const
     });
 }
 
-bool ShootWindow::nextFrame()
-{
-    QSignalSpy swapped(&window(), &QQuickWindow::frameSwapped);
-    window().update();
-    return swapped.wait(patienceMs);
-}
-
 QPoint ShootWindow::restingMiddle(QQuickItem *item)
 {
     QPoint before(-1, -1);
     QPoint now = middleOf(item).toPoint();
-    for (int i = 0; i < 100 && now != before && nextFrame(); ++i) {
+    for (int i = 0; i < 100 && now != before && m_shell->settle(); ++i) {
         before = now;
         now = middleOf(item).toPoint();
     }
@@ -169,7 +161,7 @@ void ShootWindow::bringIntoSight(QQuickItem *item)
             QWheelEvent event(place, window().mapToGlobal(place), {}, {0, 120 * hidden()}, Qt::NoButton,
                               Qt::NoModifier, Qt::NoScrollPhase, false);
             QCoreApplication::sendEvent(&window(), &event);
-            QVERIFY(nextFrame());
+            QVERIFY(m_shell->settle());
         }
         QVERIFY2(hidden() == 0, "the wheel does not bring the control into sight");
         // A press on a panel that still moves only stops it.

@@ -99,7 +99,6 @@ private:
     void bringIntoSight(QQuickItem *item);
     /// The middle of the item in the window, once two frames agree on it.
     QPoint restingMiddle(QQuickItem *item);
-    bool nextFrame();
 
     QString m_home;
     std::unique_ptr<QObject> m_translators;
